@@ -1,0 +1,34 @@
+// The component of the factory bindings of the function buttons.
+#ifndef LCDMAINCONFIGIMPL_FNBUTTONCONFIG_H
+#define LCDMAINCONFIGIMPL_FNBUTTONCONFIG_H
+
+#include "lcdmainconfig/ifnbuttonconfig.h"
+
+#include <memory>
+
+namespace LCD::MainConfigImpl {
+
+using namespace LCD::MainConfig;
+
+class FNButtonConfig final : public IFNButtonConfig {
+public:
+    FNButtonConfig();
+    ~FNButtonConfig() override;
+    FNButtonConfig(const FNButtonConfig&) = delete;
+    FNButtonConfig& operator=(const FNButtonConfig&) = delete;
+
+    bool readConfig(const QString& dir, QString& error) override;
+    int findFNBtnDefaultValue() const override;
+    int findFNBtnMaxCount() const override;
+    QVector<QString> findSequenceStrArray() const override;
+    QVector<s_FnDefaultBinding> findDefaultBindings() const override;
+    s_FnDefaultBinding findDefaultBindingByIndex(int index) const override;
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> _impl;
+};
+
+} // namespace LCD::MainConfigImpl
+
+#endif

@@ -1,0 +1,36 @@
+// The reader of layer files: one layer type each.
+#ifndef LCDMAINCONFIGIMPL_LAYERCONFIGMANAGER_H
+#define LCDMAINCONFIGIMPL_LAYERCONFIGMANAGER_H
+
+#include "lcdmainconfig/layer.h"
+
+#include <QObject>
+#include <QString>
+
+#include <atomic>
+#include <mutex>
+
+namespace LCD::MainConfigImpl {
+
+class LayerConfigManager : public QObject {
+    Q_OBJECT
+
+public:
+    /// The one instance, made on first use. Safe to call from any thread.
+    static LayerConfigManager* instance();
+    /// Deletes the instance; the next instance() makes a new one.
+    static void destroyInstance();
+
+    /// Reads the file into `out`. False with `error` set when the file can't be used.
+    bool parseDeviceLayercfg(const QString& filePath, QString& error, LCD::MainConfig::s_DCSLayer& out) const;
+
+private:
+    LayerConfigManager() = default;
+
+    static std::atomic<LayerConfigManager*> _pLayerCfgMgr;
+    static std::mutex _LayerCfgMgrMutex;
+};
+
+} // namespace LCD::MainConfigImpl
+
+#endif

@@ -1,0 +1,60 @@
+// How an attribute's text becomes a field. Every number of every file is converted here and nowhere else. A text that
+// is no number of the wanted kind gives 0; the result tells so, and the loader's readers ignore it on purpose: a bad
+// number in a capability file is no error.
+#ifndef LCDMAINCONFIGIMPL_READING_CONVERT_H
+#define LCDMAINCONFIGIMPL_READING_CONVERT_H
+
+#include <QString>
+
+#include <cstdint>
+#include <string>
+
+namespace LCD::MainConfigImpl::reading {
+
+bool convert(const QString& text, int& field);
+bool convert(const QString& text, std::uint64_t& field);
+bool convert(const QString& text, float& field);
+bool convert(const QString& text, double& field);
+bool convert(const QString& text, std::string& field); ///< UTF-8, always true.
+bool convert(const QString& text, QString& field);     ///< Always true.
+
+/// The conversion that the field's type suggests.
+struct Plain {
+    template <class Field> bool operator()(const QString& text, Field& field) const { return convert(text, field); }
+};
+
+/// Through a 32-bit int, then widened: "2.5" is no int and gives 0; a negative number keeps its sign bits.
+struct ThroughInt {
+    template <class Field> bool operator()(const QString& text, Field& field) const
+    {
+        int number = 0;
+        const bool good = convert(text, number);
+        field = static_cast<Field>(number);
+        return good;
+    }
+};
+
+/// A signed 64-bit number in an unsigned field.
+struct Signed64 {
+    bool operator()(const QString& text, std::uint64_t& field) const;
+};
+
+/// An unsigned 32-bit number of which the low 16 bits are kept.
+struct Low16 {
+    bool operator()(const QString& text, std::uint64_t& field) const;
+};
+
+/// An unsigned 16-bit number; a larger one is no number.
+struct Unsigned16 {
+    bool operator()(const QString& text, int& field) const;
+};
+
+/// A number with decimals in hundredths. The product is formed in single precision and truncated toward zero; a number
+/// beyond an int's range is none.
+struct Hundredths {
+    bool operator()(const QString& text, int& field) const;
+};
+
+} // namespace LCD::MainConfigImpl::reading
+
+#endif

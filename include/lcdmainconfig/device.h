@@ -1,0 +1,29 @@
+// One whole device: everything that the files of one device directory say, gathered in one record.
+#ifndef LCDMAINCONFIG_DEVICE_H
+#define LCDMAINCONFIG_DEVICE_H
+
+#include "lcdmainconfig/feature.h"
+#include "lcdmainconfig/layer.h"
+#include "lcdmainconfig/screen.h"
+#include "lcdmainconfig/silk.h"
+#include "lcdmainconfig/slots.h"
+
+#include <QVector>
+
+#include <vector>
+
+namespace LCD::MainConfig {
+
+/// One device. A file that cannot be read costs its own contribution alone, so that any member may stand at its
+/// defaults.
+struct s_Device {
+    s_DeviceFeature feature;             ///< Feature file; its `moduleId` is the device's key.
+    s_Slots slots;                       ///< Slot file.
+    QVector<s_DCSLayer> layers;          ///< One entry for each layer file, by file name.
+    QVector<s_DCSScreen> screens;        ///< One entry for each screen file, by file name.
+    std::vector<s_SilkOrder> silkOrders; ///< All silk files, joined by file name.
+};
+
+} // namespace LCD::MainConfig
+
+#endif
