@@ -28,7 +28,7 @@ bool DeviceConfig::readConfig(const QString& path, QString& error)
         if (parseFile(file.filePath(), path, DEVICE_FRAME, report, wellFormed))
             readFile(file.filePath(), file.fileName(), device);
     }
-    _devices.append(std::move(device));
+    _devices.append(device);
     return true;
 }
 

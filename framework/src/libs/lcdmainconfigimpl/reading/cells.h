@@ -30,6 +30,9 @@ template <class Access, class Convert = Plain> struct Attribute {
     }
 };
 
+template <class Access> Attribute(const char*, Access) -> Attribute<Access>;
+template <class Access, class Convert> Attribute(const char*, Access, Convert) -> Attribute<Access, Convert>;
+
 // clang-format off
 inline constexpr Attribute Support    {"Support",     [](auto& record) -> decltype((record.support))     { return record.support; }};
 inline constexpr Attribute Editable   {"Editable",    [](auto& record) -> decltype((record.editable))    { return record.editable; }};
@@ -63,14 +66,14 @@ constexpr auto entry(const char* name, const char* readDefault = "")
 }
 
 /// Several cells as one: the shape of an element that stands in many places.
-template <class... Cells> constexpr auto cells(const Cells&... parts)
+template <class... Cells> constexpr auto cells(Cells... parts)
 {
     return [parts...](const Reader& in, auto& record) { in.read(record, parts...); };
 }
 
 /// A list below the element, into a member of its record.
 template <class Access, class... Cells>
-constexpr auto list(Walk walk, const char* tag, Access access, const Cells&... parts)
+constexpr auto list(Walk walk, const char* tag, Access access, Cells... parts)
 {
     return [walk, tag, access, parts...](const Reader& in, auto& record) {
         in.list(walk, tag, std::invoke(access, record), parts...);
@@ -79,7 +82,7 @@ constexpr auto list(Walk walk, const char* tag, Access access, const Cells&... p
 
 /// A child of the element, into a member of its record.
 template <class Access, class... Cells>
-constexpr auto child(const char* tag, OnNull onNull, Access access, const Cells&... parts)
+constexpr auto child(const char* tag, OnNull onNull, Access access, Cells... parts)
 {
     return [tag, onNull, access, parts...](const Reader& in, auto& record) {
         in.element(tag, onNull, std::invoke(access, record), parts...);
@@ -87,7 +90,7 @@ constexpr auto child(const char* tag, OnNull onNull, Access access, const Cells&
 }
 
 /// A child of the element whose cells fill the element's own record.
-template <class... Cells> constexpr auto below(const char* tag, OnNull onNull, const Cells&... parts)
+template <class... Cells> constexpr auto below(const char* tag, OnNull onNull, Cells... parts)
 {
     return child(tag, onNull, std::identity{}, parts...);
 }

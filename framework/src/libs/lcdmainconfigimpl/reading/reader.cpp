@@ -9,8 +9,8 @@ QString Report::say(const char* text) const
     return translate != nullptr ? translate(text, nullptr, -1) : QString::fromUtf8(text);
 }
 
-Reader::Reader(QDomElement element, const Report& report, bool& failed)
-    : _element(std::move(element)), _report(&report), _failed(&failed)
+Reader::Reader(const QDomElement& element, const Report& report, bool& failed)
+    : _element(element), _report(&report), _failed(&failed)
 {}
 
 void Reader::leave(const char* tag, const char* message, bool log) const
@@ -44,8 +44,8 @@ void Reader::content(const char* tag, OnNull onNull, std::string& target) const
 std::optional<Reader> Reader::find(const char* tag, OnNull onNull) const
 {
     if (failed()) return {};
-    QDomElement child = _element.firstChildElement(QLatin1String(tag));
-    if (!child.isNull() || onNull == OnNull::ReadDefaults) return Reader(std::move(child), *_report, *_failed);
+    const QDomElement child = _element.firstChildElement(QLatin1String(tag));
+    if (!child.isNull() || onNull == OnNull::ReadDefaults) return Reader(child, *_report, *_failed);
     if (onNull == OnNull::Skip) return {};
     leave(tag, INVALID_NODE, onNull == OnNull::FailAndLog || onNull == OnNull::NoteAndLog);
     if (onNull == OnNull::Fail || onNull == OnNull::FailAndLog) *_failed = true;

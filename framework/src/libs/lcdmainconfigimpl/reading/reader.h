@@ -52,7 +52,7 @@ inline constexpr char INVALID_NODE[] = "Invalid [%1] node.";
 class Reader {
 public:
     /// `failed` receives true when a row of this reader, or of one below it in the same scope, fails.
-    Reader(QDomElement element, const Report& report, bool& failed);
+    Reader(const QDomElement& element, const Report& report, bool& failed);
 
     /// Whether a row has failed; every later row of the scope does nothing.
     [[nodiscard]] bool failed() const { return *_failed; }
