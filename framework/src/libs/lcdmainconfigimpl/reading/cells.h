@@ -26,7 +26,7 @@ template <class Access, class Convert = Plain> struct Attribute {
     requires std::invocable<const Access&, Record&>
     void operator()(const Reader& in, Record& record) const
     {
-        in.attribute(name, readDefault, std::invoke(access, record), convert);
+        in.field(name, readDefault, std::invoke(access, record), convert);
     }
 };
 

@@ -71,9 +71,9 @@ public:
     [[nodiscard]] QString text(const char* name, const char* readDefault = "") const;
     /// Reads one attribute into a field. False when its text was no number of the field's kind.
     template <class Field, class Convert = Plain>
-    bool attribute(const char* name, const char* readDefault, Field& field, const Convert& convert = {}) const
+    bool field(const char* name, const char* readDefault, Field& target, const Convert& convert = {}) const
     {
-        return convert(text(name, readDefault), field);
+        return convert(text(name, readDefault), target);
     }
 
     /// Applies cells to the element itself.
