@@ -22,11 +22,12 @@ template <class Access, class Convert = Plain> struct Attribute {
     /// The same cell with another read default.
     constexpr Attribute operator()(const char* otherDefault) const { return {name, access, convert, otherDefault}; }
 
+    /// Fills the field. False when the text was no number of the field's kind, which few readers look at.
     template <class Record>
     requires std::invocable<const Access&, Record&>
-    void operator()(const Reader& in, Record& record) const
+    bool operator()(const Reader& in, Record& record) const
     {
-        in.field(name, readDefault, std::invoke(access, record), convert);
+        return in.field(name, readDefault, std::invoke(access, record), convert);
     }
 };
 

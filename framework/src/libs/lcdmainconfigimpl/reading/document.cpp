@@ -2,7 +2,7 @@
 
 #include "xmlparse.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 namespace LCD::MainConfigImpl::reading {
 
@@ -11,7 +11,7 @@ bool parseFile(const QString& path, const QString& shownPath, const Frame& frame
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        report.error = report.say(frame.cannotOpen).arg(shownPath);
+        report.error = report.say(frame.cannotOpen, shownPath);
         return false;
     }
     ParseFailure failure;
@@ -38,8 +38,12 @@ bool checkRoot(const QDomDocument& document, const Frame& frame, const Report& r
 
 bool openDocument(const QString& path, const Frame& frame, const Report& report, QDomDocument& document)
 {
-    if (path.isEmpty()) {
-        report.error = report.say(frame.emptyPath).arg(path);
+    if (frame.emptyPath != nullptr && path.isEmpty()) {
+        report.error = report.say(frame.emptyPath, path);
+        return false;
+    }
+    if (frame.noSuchFile != nullptr && !QFileInfo::exists(path)) {
+        report.error = report.say(frame.noSuchFile, path);
         return false;
     }
     return parseFile(path, path, frame, report, document) && checkRoot(document, frame, report);

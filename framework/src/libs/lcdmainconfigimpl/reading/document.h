@@ -12,10 +12,11 @@ namespace LCD::MainConfigImpl::reading {
 /// The root tag and the texts of one kind of file. A text that is null is a test that this kind does not make.
 struct Frame {
     const char* rootTag;
-    const char* emptyPath;
+    const char* emptyPath = nullptr;
     const char* cannotOpen;
     const char* wrongRoot;
-    const char* wrongVersion;
+    const char* wrongVersion = nullptr;
+    const char* noSuchFile = nullptr;
 };
 
 /// Files of the device, card and connector catalogues.
@@ -34,18 +35,24 @@ bool parseFile(const QString& path, const QString& shownPath, const Frame& frame
 /// Checks the root's tag and, where the root has the attribute "version", that it is "1.0".
 bool checkRoot(const QDomDocument& document, const Frame& frame, const Report& report);
 
-/// The whole opening of a file that is read for itself: a path that is not empty, then parseFile() and checkRoot().
+/// The whole opening of a file that is read for itself: the path, then parseFile() and checkRoot().
 bool openDocument(const QString& path, const Frame& frame, const Report& report, QDomDocument& document);
+
+/// Reads the root element into `record`. False when a row failed; what was stored stays.
+template <class Record, class... Cells>
+bool readRoot(const QDomDocument& document, const Report& report, Record& record, const Cells&... cells)
+{
+    bool failed = false;
+    Reader(document.documentElement(), report, failed).read(record, cells...);
+    return !failed;
+}
 
 /// Opens a file and reads its root element into `record`. False when either failed; what was stored stays.
 template <class Record, class... Cells>
 bool readDocument(const QString& path, const Frame& frame, const Report& report, Record& record, const Cells&... cells)
 {
     QDomDocument document;
-    if (!openDocument(path, frame, report, document)) return false;
-    bool failed = false;
-    Reader(document.documentElement(), report, failed).read(record, cells...);
-    return !failed;
+    return openDocument(path, frame, report, document) && readRoot(document, report, record, cells...);
 }
 
 } // namespace LCD::MainConfigImpl::reading

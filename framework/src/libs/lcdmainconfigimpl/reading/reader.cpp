@@ -9,13 +9,18 @@ QString Report::say(const char* text) const
     return translate != nullptr ? translate(text, nullptr, -1) : QString::fromUtf8(text);
 }
 
+QString Report::say(const char* text, const QString& value) const
+{
+    return say(text).replace(QLatin1String("%1"), value);
+}
+
 Reader::Reader(const QDomElement& element, const Report& report, bool& failed)
     : _element(element), _report(&report), _failed(&failed)
 {}
 
 void Reader::leave(const char* tag, const char* message, bool log) const
 {
-    _report->error = _report->say(message).arg(QLatin1String(tag));
+    _report->error = _report->say(message != nullptr ? message : _report->invalidNode, QLatin1String(tag));
     if (log) qWarning().noquote() << "Log:" << _report->error;
 }
 
@@ -47,7 +52,7 @@ std::optional<Reader> Reader::find(const char* tag, OnNull onNull) const
     const QDomElement child = _element.firstChildElement(QLatin1String(tag));
     if (!child.isNull() || onNull == OnNull::ReadDefaults) return Reader(child, *_report, *_failed);
     if (onNull == OnNull::Skip) return {};
-    leave(tag, INVALID_NODE, onNull == OnNull::FailAndLog || onNull == OnNull::NoteAndLog);
+    leave(tag, nullptr, onNull == OnNull::FailAndLog || onNull == OnNull::NoteAndLog);
     if (onNull == OnNull::Fail || onNull == OnNull::FailAndLog) *_failed = true;
     return {};
 }
@@ -59,12 +64,27 @@ Reader Reader::required(const char* tag) const
 
 QDomElement Reader::first(Walk walk, const char* tag) const
 {
-    return walk == Walk::Any ? _element.firstChildElement() : _element.firstChildElement(QLatin1String(tag));
+    if (walk == Walk::Descendants) return nextBelow(_element, tag);
+    const bool named = walk == Walk::Named || walk == Walk::FirstNamed;
+    return named ? _element.firstChildElement(QLatin1String(tag)) : _element.firstChildElement();
 }
 
-QDomElement Reader::next(const QDomElement& child, Walk walk, const char* tag)
+QDomElement Reader::next(const QDomElement& child, Walk walk, const char* tag) const
 {
+    if (walk == Walk::First) return {};
+    if (walk == Walk::Descendants) return nextBelow(child, tag);
     return walk == Walk::Named ? child.nextSiblingElement(QLatin1String(tag)) : child.nextSiblingElement();
+}
+
+QDomElement Reader::nextBelow(QDomElement element, const char* tag) const
+{
+    do {
+        QDomElement after = element.firstChildElement();
+        for (; after.isNull() && element != _element; element = element.parentNode().toElement())
+            after = element.nextSiblingElement();
+        element = after;
+    } while (!element.isNull() && element.tagName() != QLatin1String(tag));
+    return element;
 }
 
 } // namespace LCD::MainConfigImpl::reading

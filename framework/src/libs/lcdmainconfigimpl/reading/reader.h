@@ -29,25 +29,30 @@ enum class OnNull {
 
 /// How a list is walked, always in document order.
 enum class Walk {
-    Any,        ///< Every child element.
-    Named,      ///< Every child element with the tag.
-    FirstNamed, ///< From the first child element with the tag on, every following element of any tag.
+    Any,         ///< Every child element.
+    First,       ///< The first child element alone, whatever its tag.
+    Named,       ///< Every child element with the tag.
+    FirstNamed,  ///< From the first child element with the tag on, every following element of any tag.
+    Descendants, ///< Every element with the tag below, however deep.
 };
 
 /// tr() of the class in whose name messages are given.
 using Translate = QString (*)(const char* text, const char* disambiguation, int n);
 
+/// The message for an absent element; the only place that words it.
+inline constexpr char INVALID_NODE[] = "Invalid [%1] node.";
+
 /// Where the messages of one read go.
 struct Report {
-    QString& error;                ///< Receives the last message.
-    Translate translate = nullptr; ///< Null: the texts stand as they are.
+    QString& error;                         ///< Receives the last message.
+    Translate translate = nullptr;          ///< Null: the texts stand as they are.
+    const char* invalidNode = INVALID_NODE; ///< For the kinds of file that word an absent element in their own way.
 
     /// The text in the language of the moment.
     [[nodiscard]] QString say(const char* text) const;
+    /// The same with `value` in place of "%1", which some wordings of a message do not have.
+    [[nodiscard]] QString say(const char* text, const QString& value) const;
 };
-
-/// The message for an absent element; the only place that words it.
-inline constexpr char INVALID_NODE[] = "Invalid [%1] node.";
 
 class Reader {
 public:
@@ -63,9 +68,9 @@ public:
     [[nodiscard]] const QDomElement& element() const { return _element; }
 
     /// Fails the scope with a message about `tag`, for rows whose wording or tag is not the usual one.
-    void fail(const char* tag, const char* message = INVALID_NODE) const;
+    void fail(const char* tag, const char* message = nullptr) const;
     /// Sets a message about `tag` and goes on.
-    void note(const char* tag, const char* message = INVALID_NODE) const;
+    void note(const char* tag, const char* message = nullptr) const;
 
     /// The attribute's text, or the read default when it is absent.
     [[nodiscard]] QString text(const char* name, const char* readDefault = "") const;
@@ -160,7 +165,8 @@ private:
     }
     void leave(const char* tag, const char* message, bool log) const;
     [[nodiscard]] QDomElement first(Walk walk, const char* tag) const;
-    [[nodiscard]] static QDomElement next(const QDomElement& child, Walk walk, const char* tag);
+    [[nodiscard]] QDomElement next(const QDomElement& child, Walk walk, const char* tag) const;
+    [[nodiscard]] QDomElement nextBelow(QDomElement element, const char* tag) const;
 
     QDomElement _element;
     const Report* _report;
