@@ -300,17 +300,6 @@ void TestScreens::loadsTheExamples()
         screens[screen.type] = screen;
     }
     QCOMPARE(screens.keys(), QList<int>({1, 2, 3}));
-    // The cells tile the wall, and each has an output of its own.
-    for (const s_ScreenDeviceMode& mode : screens[1].deviceModes)
-        for (const s_Templete& templete : mode.templetes) {
-            const s_Layout& layout = templete.layouts.at(0);
-            QSet<QString> outputs;
-            for (const s_Cell& cell : layout.cells) {
-                outputs << row(cell.slotIndex, cell.connectorIndex);
-                QCOMPARE(row(cell.x, cell.y), row(cell.column * cell.width, cell.row * cell.height));
-            }
-            QCOMPARE(outputs.size(), layout.rows * layout.columns);
-        }
     std::vector<s_SilkOrder> silk;
     QVERIFY(SilkConfigManager::instance()->parseDeviceSilkcfg(device + "silk.xml", error, silk));
     QVERIFY(!silk.empty());
