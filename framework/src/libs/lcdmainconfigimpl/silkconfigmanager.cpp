@@ -19,10 +19,22 @@ SilkConfigManager* SilkConfigManager::instance()
 
 void SilkConfigManager::destroyInstance() { destroyOnce(_pScreenCfg, _screenCfgMutex); }
 
-bool SilkConfigManager::parseDeviceSilkcfg(const QString& /*filePath*/, QString& /*error*/,
-                                           std::vector<s_SilkOrder>& /*out*/) const
+namespace {
+
+// clang-format off
+constexpr auto keys = list(Walk::FirstNamed, "Key", std::identity{},
+                           cell("Slot",      &s_SilkOrder::slot),
+                           cell("Connector", &s_SilkOrder::connector),
+                           cell("Order",     &s_SilkOrder::order));
+// clang-format on
+
+} // namespace
+
+bool SilkConfigManager::parseDeviceSilkcfg(const QString& filePath, QString& error, std::vector<s_SilkOrder>& out) const
 {
-    return true; // Not read yet.
+    const Report report{error, tr};
+    return readDocument(filePath, DEVICE_FRAME, report, out,
+                        below("Device", OnNull::Fail, below("Keys", OnNull::Fail, keys)));
 }
 
 } // namespace LCD::MainConfigImpl

@@ -6,7 +6,7 @@ bool useDirectory(const QString& path, QString& error, QDir& directory)
 {
     if (!path.isEmpty()) {
         directory.setPath(path);
-        if (directory.exists() || directory.mkpath(path)) return true;
+        if (directory.exists() || QDir().mkpath(path)) return true;
     }
     error = QStringLiteral("Invalid file path!\n%1").arg(path);
     return false;
