@@ -70,7 +70,7 @@ template <class... Cells> constexpr auto cells(const Cells&... parts)
 
 /// Cells that fill a record aside, which is stored whole, or not at all when one of them fails. The failure goes on to
 /// the reader of the row, unlike that of a staged() row.
-template <class... Cells> constexpr auto whole(const Cells&... parts)
+template <class... Cells> constexpr auto whole(Cells... parts)
 {
     return [parts...]<class Record>(const Reader& in, Record& record) {
         Record aside{};
