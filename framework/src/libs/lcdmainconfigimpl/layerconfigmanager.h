@@ -21,8 +21,10 @@ public:
     /// Deletes the instance; the next instance() makes a new one.
     static void destroyInstance();
 
-    /// Reads the file into `out`. False with `error` set when the file can't be used.
-    bool parseDeviceLayercfg(const QString& filePath, QString& error, LCD::MainConfig::s_DCSLayer& out) const;
+    /// Reads the file into a fresh `layer`. False with `errorText` set when the file can't be used; what was read
+    /// before that stays in `layer`. After true, `errorText` may hold a message about "DeviceModes", which costs only
+    /// itself.
+    bool parseDeviceLayercfg(const QString& path, QString& errorText, LCD::MainConfig::s_DCSLayer& layer) const;
 
 private:
     LayerConfigManager() = default;

@@ -72,6 +72,17 @@ template <class... Cells> constexpr auto cells(Cells... parts)
     return [parts...](const Reader& in, auto& record) { in.read(record, parts...); };
 }
 
+/// Cells that fill a record aside, which is stored whole, or not at all when one of them fails. The failure goes on to
+/// the reader of the row, unlike that of a staged() row.
+template <class... Cells> constexpr auto whole(Cells... parts)
+{
+    return [parts...]<class Record>(const Reader& in, Record& record) {
+        Record aside{};
+        in.read(aside, parts...);
+        if (!in.failed()) record = std::move(aside);
+    };
+}
+
 /// A list below the element, into a member of its record.
 template <class Access, class... Cells>
 constexpr auto list(Walk walk, const char* tag, Access access, Cells... parts)

@@ -72,6 +72,9 @@ public:
     /// Sets a message about `tag` and goes on.
     void note(const char* tag, const char* message = nullptr) const;
 
+    /// The message that was left last, for subtrees that log theirs in a way of their own.
+    [[nodiscard]] const QString& message() const { return _report->error; }
+
     /// The attribute's text, or the read default when it is absent.
     [[nodiscard]] QString text(const char* name, const char* readDefault = "") const;
     /// Reads one attribute into a field. False when its text was no number of the field's kind.
