@@ -42,10 +42,8 @@ template <class Record, class... Cells>
 bool readDocument(const QString& path, const Frame& frame, const Report& report, Record& record, const Cells&... cells)
 {
     QDomDocument document;
-    if (!openDocument(path, frame, report, document)) return false;
-    bool failed = false;
-    Reader(document.documentElement(), report, failed).read(record, cells...);
-    return !failed;
+    return openDocument(path, frame, report, document) &&
+           readElement(document.documentElement(), report, record, cells...);
 }
 
 } // namespace LCD::MainConfigImpl::reading
