@@ -123,7 +123,7 @@ inline QVector<feature::Row> feature::rows(const s_DeviceFeature& f)
         {"MosaicTemplates", show(f.mosaicSource.deviceDefaultTemplate, f.mosaicSource.step), {"1 1", "37 17"}},
         {"MosaicTemplates/Kind", show(f.mosaicSource.subSourceTypes), {"[1 1]", "[13 38]"}},
         {"MosaicTemplates/Kind/Template", show(kind.mosaicTemplates), {"[1 1 1 1 1 1 1 1 1 1 1]", "[39 40 41 42 43 44 45 46 47 48 49]"}},
-        {"MosaicTemplates/Kind/Template/Part", show(head(kind.mosaicTemplates).rectangles),
+        {"MosaicTemplates/Kind/Template/Cell", show(head(kind.mosaicTemplates).rectangles),
             {"[1 1 1 1 1 1 1 1 1 1 1]", "[50 51 24 25 52 53 54 55 56 57 58]"}}});
     add("SoundConsole/AudioMode", {{"", show(f.soundConsole), {"0 -1", "0 -1"}}, {"", show(f.soundConsole.audioModes), entry},
         {"SourceInfo", show(mode.sourceInfo.isPhysicalInterface), {"0", "59"}},
