@@ -1,5 +1,5 @@
-// The walk over a feature file: which subtree is looked up when, and what its absence costs. The readers of the subtrees
-// stand in the files beside this one.
+// The walk over a feature file: which subtree is looked up when, and what its absence costs. The readers of the
+// subtrees stand in the files beside this one.
 #include "devicefeatureconfig.h"
 
 #include "devicefeatureconfig_readers.h"
