@@ -1,13 +1,16 @@
+// The walk over a feature file: which subtree is looked up when, and what its absence costs. The readers of the
+// subtrees stand in the files beside this one.
 #include "devicefeatureconfig.h"
 
+#include "devicefeatureconfig_readers.h"
 #include "once.h"
-#include "reading/cells.h"
 #include "reading/document.h"
 
 namespace LCD::MainConfigImpl {
 
 using namespace LCD::MainConfig;
 using namespace reading;
+using namespace featurefile;
 
 std::atomic<DeviceFeatureConfig*> DeviceFeatureConfig::_pDeviceFeatureCfg{nullptr};
 std::mutex DeviceFeatureConfig::_deviceFeatCfgMutex;
@@ -20,8 +23,6 @@ DeviceFeatureConfig* DeviceFeatureConfig::instance()
 namespace {
 
 // clang-format off
-constexpr auto flags = cells(Support("1"), Editable("1"));
-
 void readIdentity(const Reader& in, s_DeviceFeature& feature)
 {
     in.read(feature,
@@ -39,55 +40,59 @@ void readIdentity(const Reader& in, s_DeviceFeature& feature)
              });
 }
 
-void readPreset(const Reader& in, s_Preset& preset)
+/// The media pool replaces the record's in every case, also when it is absent or ends early, which is meant.
+s_MediaPool mediaPoolOf(const Reader& features)
 {
-    in.read(preset, Support("0"), Editable("0"));
-    in.element("PresetCount", OnNull::Fail, preset, Min("0"), Max("0"));
+    s_MediaPool mediaPool;
+    features.apart("Media", OnNull::Note, mediaPool, readMediaPool);
+    return mediaPool;
 }
 
 /// The whole file, in the order in which its elements are looked up; of several messages the last one stays.
 void readDevice(const Reader& in, s_DeviceFeature& feature)
 {
+    s_FuncFeatures& functions = feature.funcFeatures;
     readIdentity(in, feature);
     const Reader features = in.required("Features");
-    in.staged("HDR",                           OnNull::Fail, feature.hdr,                flags);
-    in.staged("LayerAlphaFunction",            OnNull::Skip, feature.layerAlphaFunction, flags);
-    features.staged("Screen",                  OnNull::Note, feature.funcFeatures.screen);
-    features.staged("Genlock",                 OnNull::Note, feature.funcFeatures.genlock);
-    features.staged("Media",                   OnNull::Note, feature.funcFeatures.mediaPool);
-    features.staged("HDCP",                    OnNull::Note, feature.funcFeatures.hdcp);
-    features.staged("DynamicRangConversion",   OnNull::Note, feature.funcFeatures.dynamicRangConversion);
-    features.staged("DynamicRang",             OnNull::Note, feature.funcFeatures.dynamicRang);
-    features.staged("InterfaceMapping",        OnNull::Note, feature.funcFeatures.interfaceMapping);
-    features.staged("CutoutPos",               OnNull::Note, feature.funcFeatures.cutoutPos);
-    features.staged("Group",                   OnNull::Note, feature.funcFeatures.group);
-    features.staged("Swap",                    OnNull::Note, feature.funcFeatures.swap);
-    features.staged("Language",                OnNull::Note, feature.funcFeatures.language);
-    features.staged("SwitchEffect",            OnNull::Note, feature.funcFeatures.switchEffect);
-    features.staged("PushStream",              OnNull::Note, feature.pushStream);
-    features.staged("Record",                  OnNull::Note, feature.funcFeatures.record);
-    features.staged("QuickTopology",           OnNull::Note, feature.funcFeatures.quickToPology);
-    in.staged("General",                       OnNull::Note, feature.general);
-    in.staged("NetWorks",                      OnNull::Note, feature.networks);
-    in.staged("Pictures",                      OnNull::Note, feature.pictures);
-    in.staged("ProjectFile",                   OnNull::Note, feature.projectFile);
-    in.staged("File",                          OnNull::Note, feature.file);
-    in.staged("DeviceModes",                   OnNull::Note, feature.deviceModes);
-    in.staged("PowerCtrl",                     OnNull::Note, feature.powerCtrl);
-    in.staged("Subcard",                       OnNull::Note, feature.subcard);
-    in.staged("RestoreFactory",                OnNull::Note, feature.restoreFactory);
-    in.staged("TemplateResource",              OnNull::Note, feature.templateResource);
-    in.staged("Upgrade",                       OnNull::Note, feature.upgrade);
-    in.staged("DeviceSelfTest",                OnNull::Note, feature.deviceSelfTest,     Support("1"));
-    in.staged("MosaicSource",                  OnNull::Note, feature.mosaicSource);
-    in.element("SoundConsole",                 OnNull::Note, feature.soundConsole);
-    in.staged("Custom",                        OnNull::Skip, feature.custom,             Support("0"), Editable("1"));
-    in.staged("Ptzs",                          OnNull::Note, feature.ptzs);
-    in.element("Preset",                       OnNull::Fail, feature.preset,             readPreset);
-    in.staged("CleanFeeds",                    OnNull::Skip, feature.cleanFeeds);
-    in.staged("Audio",                         OnNull::Skip, feature.audio);
-    features.staged("Tally",                   OnNull::Skip, feature.tally);
-    in.staged("InternalSource",                OnNull::Skip, feature.internalSource);
+    in.staged("HDR",                         OnNull::Fail, feature.hdr,                     flags);
+    in.staged("LayerAlphaFunction",          OnNull::Skip, feature.layerAlphaFunction,      flags);
+    features.staged("Screen",                OnNull::Note, functions.screen,                readScreen);
+    features.staged("Genlock",               OnNull::Note, functions.genlock,               readGenlock);
+    functions.mediaPool = mediaPoolOf(features);
+    features.staged("HDCP",                  OnNull::Note, functions.hdcp,                  flags);
+    features.staged("DynamicRangConversion", OnNull::Note, functions.dynamicRangConversion, readDynamicRangConversion);
+    features.staged("DynamicRang",           OnNull::Note, functions.dynamicRang,           readDynamicRang);
+    features.staged("InterfaceMapping",      OnNull::Note, functions.interfaceMapping,      readInterfaceMapping);
+    features.staged("CutoutPos",             OnNull::Note, functions.cutoutPos,             readCutoutPos);
+    features.staged("Group",                 OnNull::Note, functions.group,                 readGroup);
+    features.staged("Swap",                  OnNull::Note, functions.swap,                  readSwap);
+    features.staged("Language",              OnNull::Note, functions.language,              readLanguage);
+    features.staged("SwitchEffect",          OnNull::Note, functions.switchEffect,          readSwitchEffect);
+    features.staged("PushStream",            OnNull::Note, feature.pushStream,              readPushStream);
+    features.staged("Record",                OnNull::Note, functions.record,                readRecord);
+    features.staged("QuickTopology",         OnNull::Note, functions.quickToPology,         readQuickTopology);
+    in.staged("General",                     OnNull::Note, feature.general,                 readGeneral);
+    in.staged("NetWorks",                    OnNull::Note, feature.networks,                readNetworks);
+    in.staged("Pictures",                    OnNull::Note, feature.pictures,                readPictures);
+    in.staged("ProjectFile",                 OnNull::Note, feature.projectFile,             readProjectFile);
+    in.staged("File",                        OnNull::Note, feature.file,                    readFile);
+    in.staged("DeviceModes",                 OnNull::Note, feature.deviceModes,             readDeviceModes);
+    in.staged("PowerCtrl",                   OnNull::Note, feature.powerCtrl,               readPowerCtrl);
+    in.staged("Subcard",                     OnNull::Note, feature.subcard,                 readSubcard);
+    in.staged("RestoreFactory",              OnNull::Note, feature.restoreFactory,          readRestoreFactory);
+    in.staged("TemplateResource",            OnNull::Note, feature.templateResource,        readTemplateResource);
+    in.staged("Upgrade",                     OnNull::Note, feature.upgrade,                 readUpgrade);
+    in.staged("DeviceSelfTest",              OnNull::Note, feature.deviceSelfTest,          Support("1"));
+    in.staged("MosaicSource",                OnNull::Note, feature.mosaicSource,            readMosaicSource);
+    // Not staged, and alone among the subtrees a gap in an audio mode ends the file, which is meant.
+    in.element("SoundConsole",               OnNull::Note, feature.soundConsole,            readSoundConsole);
+    in.staged("Custom",                      OnNull::Skip, feature.custom,                  Support("0"), Editable("1"));
+    in.staged("Ptzs",                        OnNull::Note, feature.ptzs,                    readPtzs);
+    in.element("Preset",                     OnNull::Fail, feature.preset,                  readPreset);
+    in.staged("CleanFeeds",                  OnNull::Skip, feature.cleanFeeds,              readCleanFeeds);
+    in.staged("Audio",                       OnNull::Skip, feature.audio,                   readAudio);
+    features.staged("Tally",                 OnNull::Skip, feature.tally,                   readTally);
+    in.staged("InternalSource",              OnNull::Skip, feature.internalSource,          readInternalSource);
 }
 // clang-format on
 
@@ -97,6 +102,16 @@ bool DeviceFeatureConfig::parseDeviceFeaturecfg(const QString& filePath, QString
 {
     const Report report{error, tr};
     return readDocument(filePath, DEVICE_FRAME, report, feature, below("Device", OnNull::Fail, readDevice));
+}
+
+bool DeviceFeatureConfig::presetConfig(const QDomElement& device, QString& errorMessage, s_Preset& preset) const
+{
+    return readElement(device, Report{errorMessage, tr}, preset, below("Preset", OnNull::Fail, readPreset));
+}
+
+bool DeviceFeatureConfig::mediaPoolCfg(const QDomElement& features, QString& errorMessage, s_MediaPool& mediaPool) const
+{
+    return readElement(features, Report{errorMessage, tr}, mediaPool, below("Media", OnNull::Fail, readMediaPool));
 }
 
 } // namespace LCD::MainConfigImpl

@@ -62,7 +62,7 @@ bool KeyCheckConfig::readConfig(const QString& dir, QString& error)
         if (!checkRoot(document, KEY_CHECK_FRAME, report)) return false;
         QList<Key> dropped;
         QList<Key>* const keys = _impl->listOf(file.fileName());
-        if (!readRoot(document, report, keys != nullptr ? *keys : dropped, lcdKeys)) return false;
+        if (!readElement(document.documentElement(), report, keys != nullptr ? *keys : dropped, lcdKeys)) return false;
     }
     return true;
 }

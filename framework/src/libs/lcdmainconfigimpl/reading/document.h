@@ -38,21 +38,13 @@ bool checkRoot(const QDomDocument& document, const Frame& frame, const Report& r
 /// The whole opening of a file that is read for itself: the path, then parseFile() and checkRoot().
 bool openDocument(const QString& path, const Frame& frame, const Report& report, QDomDocument& document);
 
-/// Reads the root element into `record`. False when a row failed; what was stored stays.
-template <class Record, class... Cells>
-bool readRoot(const QDomDocument& document, const Report& report, Record& record, const Cells&... cells)
-{
-    bool failed = false;
-    Reader(document.documentElement(), report, failed).read(record, cells...);
-    return !failed;
-}
-
 /// Opens a file and reads its root element into `record`. False when either failed; what was stored stays.
 template <class Record, class... Cells>
 bool readDocument(const QString& path, const Frame& frame, const Report& report, Record& record, const Cells&... cells)
 {
     QDomDocument document;
-    return openDocument(path, frame, report, document) && readRoot(document, report, record, cells...);
+    return openDocument(path, frame, report, document) &&
+           readElement(document.documentElement(), report, record, cells...);
 }
 
 } // namespace LCD::MainConfigImpl::reading

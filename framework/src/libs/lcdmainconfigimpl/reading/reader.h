@@ -176,6 +176,15 @@ private:
     bool* _failed;
 };
 
+/// Reads one element into `record`, in a scope of its own. False when a row failed; what was stored stays.
+template <class Record, class... Cells>
+bool readElement(const QDomElement& element, const Report& report, Record& record, const Cells&... cells)
+{
+    bool failed = false;
+    Reader(element, report, failed).read(record, cells...);
+    return !failed;
+}
+
 } // namespace LCD::MainConfigImpl::reading
 
 #endif
