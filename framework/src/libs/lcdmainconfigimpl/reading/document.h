@@ -43,9 +43,7 @@ bool readDocument(const QString& path, const Frame& frame, const Report& report,
 {
     QDomDocument document;
     if (!openDocument(path, frame, report, document)) return false;
-    bool failed = false;
-    Reader(document.documentElement(), report, failed).read(record, cells...);
-    return !failed;
+    return readElement(document.documentElement(), report, record, cells...);
 }
 
 } // namespace LCD::MainConfigImpl::reading

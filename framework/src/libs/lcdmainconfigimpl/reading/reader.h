@@ -150,6 +150,9 @@ public:
     /// The first child `tag`; nothing when it is absent (unless a null element is to be read) or the scope has failed.
     [[nodiscard]] std::optional<Reader> find(const char* tag, OnNull onNull) const;
 
+    /// The first child of any tag, for files that tell what they hold by it; nothing when there is none.
+    [[nodiscard]] std::optional<Reader> firstChild() const;
+
     /// The same element in a scope of failure of its own.
     [[nodiscard]] Reader scoped(bool& failed) const { return {_element, *_report, failed}; }
 
@@ -166,6 +169,15 @@ private:
     const Report* _report;
     bool* _failed;
 };
+
+/// Reads an element that was handed over as such. False when a row failed; what was stored stays.
+template <class Record, class... Cells>
+bool readElement(const QDomElement& element, const Report& report, Record& record, const Cells&... cells)
+{
+    bool failed = false;
+    Reader(element, report, failed).read(record, cells...);
+    return !failed;
+}
 
 } // namespace LCD::MainConfigImpl::reading
 
