@@ -1,4 +1,4 @@
-// A host that serves what a test gives it.
+// A host for components that look one another up: while it lives, the plug-in's handle points at it.
 #ifndef TESTS_STANDINHOST_H
 #define TESTS_STANDINHOST_H
 
@@ -7,16 +7,18 @@
 #include <map>
 #include <string>
 
-/// The process's host while it lives. It serves the pointers of `components` by their interface names.
 class StandInHost final : private kpm::IHostService {
 public:
-    explicit StandInHost(std::map<std::string, void*> components = {}) : _components(std::move(components))
-    {
-        kpm::api::get().service = this;
-    }
+    StandInHost() { kpm::api::get().service = this; }
     ~StandInHost() { kpm::api::get().service = nullptr; }
     StandInHost(const StandInHost&) = delete;
     StandInHost& operator=(const StandInHost&) = delete;
+
+    /// Serves a component under an interface name. The type is the interface's, as the look-up casts to it.
+    template <class Interface> void serve(const char* interfaceName, Interface& component)
+    {
+        _served[interfaceName] = &component;
+    }
 
 private:
     void reserved0() override {}
@@ -24,11 +26,11 @@ private:
     void reserved2() override {}
     void* queryInterface(const char* interfaceName) override
     {
-        const auto component = _components.find(interfaceName);
-        return component == _components.end() ? nullptr : component->second;
+        const auto served = _served.find(interfaceName);
+        return served == _served.end() ? nullptr : served->second;
     }
 
-    std::map<std::string, void*> _components;
+    std::map<std::string, void*> _served;
 };
 
 #endif
