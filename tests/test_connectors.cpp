@@ -14,8 +14,7 @@ using LCD::MainConfigImpl::ConnectorConfig;
 
 namespace {
 
-/// The example of a connector with everything, its numbers replaced by running ones from 1001 on. An attribute that an
-/// element doesn't have, and that is read elsewhere, is -7.
+/// The example of a connector with everything, its numbers replaced by running ones from 1001 on.
 class ConnectorFile {
 public:
     ConnectorFile()
@@ -27,11 +26,6 @@ public:
         for (auto hit = number.match(text); hit.hasMatch(); hit = number.match(text, hit.capturedStart() + 1))
             text.replace(hit.capturedStart(), hit.capturedLength(), QStringLiteral("=\"%1\"").arg(++_last));
         _document.setContent(text);
-        const QDomNodeList elements = _document.elementsByTagName("*");
-        for (int i = 2; i < elements.size(); ++i)
-            for (const char* name : {"Support", "Editable", "Value", "DataType", "Min", "Max", "Step", "Coefficient",
-                                     "SupportType", "RangeType", "Interlaced"})
-                if (!elements.at(i).toElement().hasAttribute(name)) elements.at(i).toElement().setAttribute(name, -7);
     }
     [[nodiscard]] QString text() const { return _document.toString(); }
     /// The numbers of the file in its order.
@@ -51,6 +45,15 @@ public:
     }
     void duplicate(const QString& path) { at(path).parentNode().insertAfter(at(path).cloneNode(), at(path)); }
     void remove(const QString& path) { at(path).parentNode().removeChild(at(path)); }
+
+    /// Sets every attribute that the element, or one below it, doesn't have and that is read elsewhere to -7.
+    static void fill(QDomElement element)
+    {
+        for (const char* name : {"Support", "Editable", "Value", "DataType", "Min", "Max", "Step", "Coefficient",
+                                 "Type", "SupportType", "RangeType", "Interlaced"})
+            if (!element.hasAttribute(name)) element.setAttribute(name, -7);
+        for (auto child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) fill(child);
+    }
 
 private:
     QDomDocument _document;
@@ -160,13 +163,17 @@ private Q_SLOTS:
 
 void TestConnectors::fillsEachFieldFromItsAttribute()
 {
-    const Load load({{"5.xml", ConnectorFile().text()}});
+    const ConnectorFile file;
+    ConnectorFile::fill(file.at(""));
+    const Load load({{"5.xml", file.text()}});
     QCOMPARE(load.error + load.log.join("; "), QString("untouched"));
     const s_ConnectorCfg connector = load.catalogue.connectors.at(0).configs.at(0);
-    QCOMPARE(numbersOf(connector), ConnectorFile().numbers());
+    QCOMPARE(numbersOf(connector), file.numbers());
     QCOMPARE(connector.icon + connector.name.zhCN + connector.name.en,
              std::string("hdmi20.pngHDMI 2.0接口HDMI 2.0 Connector"));
     QCOMPARE(connector.shortName.zhCN + connector.shortName.en, std::string("HDMI2.0HDMI 2.0"));
+    const s_RangeValue& gamma = connector.imageQuality.interfaces.at(0).gamma;
+    QCOMPARE(gamma.coefficient, gamma.max + 1.0);
     QCOMPARE(connector.player.autoPlayEnableSecond.value, connector.player.autoPlayEnable.value);
 }
 

@@ -143,14 +143,8 @@ void TestConnectorsQueries::answersFromTheExample()
     QCOMPARE(error + lines.taken().join(' '), QString());
 
     QCOMPARE(connectors.findConnectorTypeName(9), std::string("USB媒体播放器"));
-    QCOMPARE(connectors.findHDCPInfo(1)->interfaces.at(0).hdcpType.value, 1);
-    QCOMPARE(connectors.findPlayerInfo(9)->picturePlayTime.value, 5000);
     QCOMPARE(connectors.findHPDInfo(2)->value, 500);
     QVERIFY(!connectors.findHPDInfo(3));
-    QCOMPARE(connectors.findEDIDInfo(6)->support, 1);
-    QCOMPARE(connectors.findDynamicRangeInfo(4)->support, 1);
-    QCOMPARE(connectors.findColorDepthsInfo(5)->interfaces.at(1).colorDepth.value, 10);
-    QCOMPARE(connectors.findColorSpacesInfo(4)->interfaces.at(0).colorSpace.value, 2);
     QCOMPARE(connectors.findHDRInfo(1)->editable, -1);
     QCOMPARE(connectors.findResoluCapacityMode(7)->at(1).bandWidth.max, std::int64_t(340000));
     QCOMPARE(connectors.findConnectorDefaultResolution(1, 6, 1)->width.value, 2560);
@@ -160,7 +154,7 @@ void TestConnectorsQueries::answersFromTheExample()
     QCOMPARE(connectors.findConnectorRates(7, 2).refreshValues.at(0), 2398);
     QCOMPARE(connectors.findConnectorTiming(8, 8).bandWidth.max, 148500);
     QVERIFY(!connectors.findEDIDInfo(10) && !connectors.findConnectorDefaultResolution(2, 6, 1));
-    QVERIFY(connectors.findConnectorTypeName(10).empty());
+    QCOMPARE(connectors.findConnectorTypeName(10), std::string());
     QCOMPARE(connectors.findConnectorRates(8, 7).refresh.editable, -1);
     QCOMPARE(connectors.findConnectorTiming(8, 7).type, 0);
 }
