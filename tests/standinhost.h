@@ -14,7 +14,7 @@ public:
     StandInHost(const StandInHost&) = delete;
     StandInHost& operator=(const StandInHost&) = delete;
 
-    /// Serves a component under an interface name. The type is the interface's, as the look-up casts to it.
+    /// Serves a component under an interface name. `Interface` must be the one that the look-up casts to.
     template <class Interface> void serve(const char* interfaceName, Interface& component)
     {
         _served[interfaceName] = &component;
