@@ -12,6 +12,8 @@ using namespace LCD::MainConfig;
 
 class ConnectorConfig final : public IConnectorConfig {
 public:
+    class Impl;
+
     ConnectorConfig();
     ~ConnectorConfig() override;
     ConnectorConfig(const ConnectorConfig&) = delete;
@@ -38,7 +40,6 @@ public:
     s_PreSetTimingInterface findConnectorTiming(int type, int interfaceMask) override;
 
 private:
-    class Impl;
     std::unique_ptr<Impl> _impl;
 };
 

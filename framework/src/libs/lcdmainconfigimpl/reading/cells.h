@@ -107,6 +107,12 @@ template <class... Cells> constexpr auto below(const char* tag, OnNull onNull, C
     return child(tag, onNull, std::identity{}, parts...);
 }
 
+/// Cells that fill a member of the record from the element itself.
+template <class Access, class... Cells> constexpr auto part(Access access, const Cells&... parts)
+{
+    return [access, parts...](const Reader& in, auto& record) { in.read(std::invoke(access, record), parts...); };
+}
+
 /// The list of allowed values of a setting: elements whose attribute "Value" goes to `enums` of the record.
 constexpr auto enums(Walk walk, const char* readDefault = "", const char* tag = "Enum")
 {

@@ -42,6 +42,14 @@ bool convert(const QString& text, QString& field)
     return true;
 }
 
+bool ThroughFloat::operator()(const QString& text, double& field) const
+{
+    float number = 0.0F;
+    const bool good = convert(text, number);
+    field = static_cast<double>(number);
+    return good;
+}
+
 bool Signed64::operator()(const QString& text, std::uint64_t& field) const
 {
     bool good = false;

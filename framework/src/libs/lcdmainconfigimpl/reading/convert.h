@@ -34,6 +34,11 @@ struct ThroughInt {
     }
 };
 
+/// Through single precision, then widened: 2.2 becomes 2.2000000476837158.
+struct ThroughFloat {
+    bool operator()(const QString& text, double& field) const;
+};
+
 /// A signed 64-bit number in an unsigned field.
 struct Signed64 {
     bool operator()(const QString& text, std::uint64_t& field) const;

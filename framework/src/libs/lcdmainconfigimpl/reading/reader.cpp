@@ -57,6 +57,13 @@ std::optional<Reader> Reader::find(const char* tag, OnNull onNull) const
     return {};
 }
 
+std::optional<Reader> Reader::firstChild() const
+{
+    QDomElement child = first(Walk::Any, "");
+    if (failed() || child.isNull()) return {};
+    return Reader(std::move(child), *_report, *_failed);
+}
+
 Reader Reader::required(const char* tag) const
 {
     return find(tag, OnNull::Fail).value_or(Reader({}, *_report, *_failed));

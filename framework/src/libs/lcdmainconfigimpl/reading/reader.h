@@ -158,6 +158,9 @@ public:
     /// The first child `tag`; nothing when it is absent (unless a null element is to be read) or the scope has failed.
     [[nodiscard]] std::optional<Reader> find(const char* tag, OnNull onNull) const;
 
+    /// The first child of any tag, for files that tell what they hold by it; nothing when there is none.
+    [[nodiscard]] std::optional<Reader> firstChild() const;
+
     /// The same element in a scope of failure of its own.
     [[nodiscard]] Reader scoped(bool& failed) const { return {_element, *_report, failed}; }
 
