@@ -68,6 +68,12 @@ template <class... Cells> constexpr auto cells(const Cells&... parts)
     return [parts...](const Reader& in, auto& record) { in.read(record, parts...); };
 }
 
+/// Cells of the element itself that fill a member of its record.
+template <class Access, class... Cells> constexpr auto member(Access access, const Cells&... parts)
+{
+    return [access, parts...](const Reader& in, auto& record) { in.read(std::invoke(access, record), parts...); };
+}
+
 /// A list below the element, into a member of its record.
 template <class Access, class... Cells>
 constexpr auto list(Walk walk, const char* tag, Access access, const Cells&... parts)
