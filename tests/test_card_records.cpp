@@ -256,16 +256,17 @@ void TestCardRecords::loadsTheExample()
     QList<int> models = fixture.models();
     std::sort(models.begin(), models.end());
     QCOMPARE(models, QList<int>({100, 201, 202, 203, 204, 301, 301, 302, 401, 501, 601}));
-    const auto whole = fixture.catalogue.subcardConfig();
+    const Query& query = fixture.catalogue;
+    const auto whole = query.subcardConfig();
     for (const s_Subcard& card : whole->subcards)
         for (const s_SubcardConnector& one : card.connectors.connectors) {
-            const QByteArray where =
-                QStringLiteral("model %1, position %2").arg(card.modelId).arg(one.position).toUtf8();
-            QVERIFY2(fixture.catalogue.findConnectorLocatedGroup(card.modelId, one.position) != nullptr, where.data());
-            QVERIFY2(!fixture.catalogue.findSupportedCapacity(card.modelId, one.type, one.interfaceType).empty(),
-                     where.data());
-            QVERIFY2(one.type >= 1 && one.type <= 9 && one.capacityMode >= 0 && one.capacityMode <= 2, where.data());
+            QVERIFY(query.findConnectorLocatedGroup(card.modelId, one.position) != nullptr);
+            QVERIFY(!query.findSupportedCapacity(card.modelId, one.type, one.interfaceType).empty());
         }
+    // Found in the first of the two files of model 301, in the second, and in the last.
+    QVERIFY(query.findHPDInfo(301, 1) != nullptr);
+    QCOMPARE(query.findConnectorDeviceModeCapacity(301, 4, 2).name, std::string("4 x 4K60"));
+    QCOMPARE(query.findConnectorGroupByGroupId(301, 1).selectNum, 2);
 }
 
 QTEST_GUILESS_MAIN(TestCardRecords)
