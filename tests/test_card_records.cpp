@@ -125,7 +125,6 @@ private Q_SLOTS:
     void readsTextsAndOddNumbers();
     void answersForSeveralCards_data();
     void answersForSeveralCards();
-    void takesInterfaceTypes();
     void loadsTheExample();
 };
 
@@ -181,14 +180,15 @@ void TestCardRecords::answersForSeveralCards_data()
         QString xml;
         for (const int card : {1, 2, 3})
             xml += QString(R"(<Any ModelId='1' CardMode='%1'><Name><zh_CN/><en/></Name><Connectors>
-                <Connector Position='%2' PrintKeyNo='%1' InterfaceType='8'/><Connector Position='5'/><DeviceMode Value='%2'>
-                <Capacitys><Any Value='6' Enable='%1'><Any Position='%2' CapacityMode='3'><DynamicRange Support='%1'/></Any>
+                <Connector Position='%2' PrintKeyNo='%1' InterfaceType='8'/><Connector Position='%2' InterfaceType='7'/>
+                <DeviceMode Value='%2'><Capacitys><Any Value='6' Enable='%1'><Any Position='%2' CapacityMode='3'><DynamicRange Support='%1'/></Any>
                 <Any Type='5' Position='%2' CapacityMode='3' PrintKeyNo='%1'><Interlaced Type='%1'/></Any></Any></Capacitys>
                 <Timing><Any Type='5'><Any Type='2'><Any Value='3'><ResolutionRatios Support='%1'/></Any></Any></Any>
                 </Timing></DeviceMode><Types><Any Type='%2'><Interface Type='2'><Capacitys><Enum Value='%1'/></Capacitys>
                 </Interface><HPDs Support='1'><Any Type='1' Support='1'/><Any Type='2'/><Any Type='2' Support='1'>
                 <HPD Value='%1'/></Any></HPDs></Any><Any Type='9'><HPDs><Any Type='2' Support='1'/></HPDs></Any></Types>
-                </Connectors><ConnectorGroups><Capacity><Any Value='%2' SelectNum='%1'><Any Position='%2'/></Any></Capacity>
+                </Connectors><ConnectorGroups><Capacity><Any Value='%2' SelectNum='%1'>
+                <Any Position='%2'/><Any Position='99' InterfaceType='6'/></Any></Capacity>
                 </ConnectorGroups><CapacityGroups><Any Value='6'><DeviceModes><Any Value='%2'><Any Position='%1'/></Any>
                 </DeviceModes></Any></CapacityGroups><ConnectorCopy><MainRelated><Any><Any Value='7'><Any>
                 <Any Position='%1'/><Any Position='%2'/></Any></Any></Any></MainRelated></ConnectorCopy></Any>)")
@@ -220,6 +220,9 @@ void TestCardRecords::answersForSeveralCards_data()
     row("findConnectorInterlacedType", firstHit, [](const Query& q) { return q.findConnectorInterlacedType(1, 5, 4, 3); });
     row("findSubcardModeData",        lastHit,   [](const Query& q) { return head(q.findSubcardModeData(1, 6, 4).connectors, &s_ConnectorInCapacityGroups::position); });
     row("...ByGroupId: any group",    lastHit,   [](const Query& q) { return head(q.findConnectorByGroupId(1, 99), &s_SubcardConnector::printKeyNo); });
+    row("...type of the last plain connector",       {7, 7, 0}, [](const Query& q) { return head(q.findConnectorByGroupId(1, 99), &s_SubcardConnector::interfaceType); });
+    row("...group: type of the last plain connector", {7, 7, 0}, [](const Query& q) { return head(q.findConnectorGroupByGroupId(1, 4).connectors, &s_SubcardConnector::interfaceType); });
+    row("...group: own type without a plain one",    {6, 6, 0}, [](const Query& q) { auto group = q.findConnectorGroupByGroupId(1, 4).connectors; std::reverse(group.begin(), group.end()); return head(group, &s_SubcardConnector::interfaceType); });
     row("findConnectorGroupByGroupId", lastHit,  [](const Query& q) { return q.findConnectorGroupByGroupId(1, 4).selectNum; });
     // clang-format on
 }
@@ -228,19 +231,6 @@ void TestCardRecords::answersForSeveralCards()
 {
     QFETCH(Numbers, answers);
     QTEST(answers, "expected");
-}
-
-void TestCardRecords::takesInterfaceTypes()
-{
-    // The group's own types are 50; the plain list has 1, then 2 at position 1, and nothing at position 3.
-    CardFixture fixture;
-    fill(fixture, R"(<Any ModelId='1'><Name><zh_CN/><en/></Name><Connectors><Connector Position='1' InterfaceType='1'/>
-        <Connector Position='1' InterfaceType='2'/></Connectors><ConnectorGroups><Capacity><Any Value='6'>
-        <Any Position='1' InterfaceType='50'/><Any Position='3' InterfaceType='50'/></Any></Capacity></ConnectorGroups></Any>)");
-    Numbers types;
-    for (const auto& one : fixture.catalogue.findConnectorGroupByGroupId(1, 6).connectors) types << one.interfaceType;
-    for (const auto& one : fixture.catalogue.findConnectorByGroupId(1, 6)) types << one.interfaceType;
-    QCOMPARE(types, Numbers({2, 50, 2, 2}));
 }
 
 void TestCardRecords::loadsTheExample()
