@@ -12,11 +12,6 @@ constexpr int OUTPUT_INTERFACE = 2;
 /// The capacity modes that are known, from 0 to this one.
 constexpr int HIGHEST_CAPACITY_MODE = 2;
 
-template <class Record> std::shared_ptr<Record> copyOrNull(const Record* record)
-{
-    return record != nullptr ? newCopy(*record) : nullptr;
-}
-
 bool sameSize(const s_resolutionResolutionRatio& one, const s_resolutionResolutionRatio& other)
 {
     return one.width == other.width && one.height == other.height;

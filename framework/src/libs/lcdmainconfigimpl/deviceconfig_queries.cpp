@@ -2,22 +2,14 @@
 // screens and layers.
 #include "deviceconfig.h"
 #include "search.h"
+#include "slotclasses.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QVariant>
 
-#include <array>
-
 namespace LCD::MainConfigImpl {
 namespace {
-
-/// All classes of card slots, in the order in which every walk takes them.
-std::array<const s_SlotAttr*, 8> slotClasses(const s_Slots& all)
-{
-    return {&all.mainControlCardSlots, &all.reservedCardSlots, &all.mixCardSlots, &all.inputCardSlots,
-            &all.outputCardSlots,      &all.mvrCardSlots,      &all.auxCardSlots, &all.expCardSlots};
-}
 
 bool panelSpeaksEnglish()
 {

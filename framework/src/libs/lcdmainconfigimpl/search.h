@@ -23,6 +23,12 @@ template <class Record> std::shared_ptr<Record> newCopy(const Record& record)
     return std::make_shared<Record>(record);
 }
 
+/// The same of what a search has found; null when it found nothing.
+template <class Record> std::shared_ptr<Record> copyOrNull(const Record* record)
+{
+    return record != nullptr ? newCopy(*record) : nullptr;
+}
+
 } // namespace LCD::MainConfigImpl
 
 #endif

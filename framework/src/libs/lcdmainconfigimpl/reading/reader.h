@@ -63,6 +63,8 @@ public:
     [[nodiscard]] bool failed() const { return *_failed; }
     [[nodiscard]] bool has(const char* tag) const { return !_element.firstChildElement(QLatin1String(tag)).isNull(); }
     [[nodiscard]] bool hasAttribute(const char* name) const { return _element.hasAttribute(QLatin1String(name)); }
+    /// Whether the element holds anything at all, be it only a comment.
+    [[nodiscard]] bool hasContent() const { return _element.hasChildNodes(); }
     [[nodiscard]] QString tag() const { return _element.tagName(); }
     /// The element itself, for helpers whose signature takes one.
     [[nodiscard]] const QDomElement& element() const { return _element; }
