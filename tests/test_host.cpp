@@ -55,10 +55,20 @@ QString connectorFile(const QString& presetTiming = {})
                "<MaxCount/></Crop><TimingSelect><Select/></TimingSelect><EDID/><HPDs/></Connector></Connectors>");
 }
 
+QString screenFile()
+{
+    return dcs("<Device><Screens><Screen Type=\"1\"><DeviceModes><DeviceMode Value=\"2\"><Templetes><Templete>"
+               "<Name en=\"Wall\" zh_CN=\"墙\"/><Layouts><Layout Rows=\"1\" Columns=\"2\" ScreenId=\"3\">"
+               "<Cell Width=\"1920\" Height=\"1080\" SlotIndex=\"7\" ConnectorIndex=\"1\"/>"
+               "<Cell Row=\"1\" SlotIndex=\"8\"/></Layout></Layouts></Templete></Templetes></DeviceMode></DeviceModes>"
+               "</Screen></Screens></Device>");
+}
+
 /// A whole configuration in which nothing is wrong.
 void writeRoot(const Folder& root)
 {
     root.write("devices/one/slot.xml", slotFile({"7", "8"}));
+    root.write("devices/one/screen.xml", screenFile());
     root.write("subcards/inputs/7.xml", cardFile());
     root.write("connectors/1.xml", connectorFile());
     root.write(
@@ -96,16 +106,17 @@ Result run(const QString& words, const QString& root, const QString& outputFile 
             QString::fromUtf8(process.readAllStandardError())};
 }
 
-/// The problems as "file: text", the files named from the configuration root on.
-QStringList problemsIn(const QString& page, const QString& root)
+/// The problems as "file: text", with paths from the configuration root on.
+QStringList problemsIn(QString page, const QString& root)
 {
+    page.remove(0, page.indexOf("Problems (")).remove(root + '/');
     QStringList problems;
     QString file;
-    for (const QString& line : page.mid(page.indexOf("Problems (")).split('\n').mid(1)) {
+    for (const QString& line : page.split('\n').mid(1)) {
         if (line.startsWith("    "))
             problems.append(file + ": " + line.trimmed());
         else
-            file = line.trimmed().remove(root + '/');
+            file = line.trimmed();
     }
     return problems;
 }
@@ -136,9 +147,9 @@ void TestHost::answers_data()
 
     QTest::newRow("help tells the layout") << "--help" << 0 << "lockareaconfig.xml";
     QTest::newRow("version") << "--version" << 0 << "lcdhost 1.";
-    QTest::newRow("load: card names of a slot")
-        << "load ROOT" << 0
-        << "     2  MC         main control     7  Input card\n                               8  not in catalogue\n";
+    QTest::newRow("load: card names of a slot") << "load ROOT" << 0
+                                                << "     2  MC         main control     7  Input card\n                "
+                                                   "                    8  not in catalogue\n";
     QTest::newRow("load: counts") << "load ROOT" << 0 << "Cards                  1  no file for 8\n";
     QTest::newRow("load: nothing wrong") << "load ROOT" << 0 << "\nNo problems\n";
     QTest::newRow("load: language") << "load ROOT --language zh_CN" << 0 << "7  输入卡";
@@ -158,8 +169,12 @@ void TestHost::answers_data()
         << "menu ROOT" << 0
         << "  home           0     1       0       0\n  |- 输入       12     0       0       0\n"
            "  `- output      0     0       0       0\n";
-    QTest::newRow("screens: none") << "screens ROOT" << 0 << "There are no screens.\n";
-    QTest::newRow("settings") << "settings ROOT" << 0 << "  HTTP port                               8080\n";
+    QTest::newRow("screens: a cell, a gap and a cell outside")
+        << "screens ROOT" << 0
+        << "    | slot 7, conn 1   |                  |\n    | 1920x1080 at 0,0 |                  |\n"
+           "    +------------------+------------------+\n"
+           "    Not in the grid:\n      row 1, column 0: slot 8, conn 0, 0x0 at 0,0\n";
+    QTest::newRow("settings") << "settings ROOT" << 0 << "  HTTP port                              8080\n";
 }
 
 void TestHost::answers()
@@ -228,12 +243,13 @@ void TestHost::namesTheFileOfEachProblem_data()
     QTest::newRow("two catalogues")
         << "load ROOT" << Files{{"devices/one/slot.xml", "<DCS>"}, {"keycheck/keyboardchecklist.xml", dcs({})}}
         << QStringList{"devices/one/slot.xml: Parse error at line 1, column 6: unexpected end of file",
-                       "subcards: device list",
+                       "connectors: device is empty",
                        "keycheck/keyboardchecklist.xml: This file is not a valid configuration file."};
     QTest::newRow("a loader that stops at the first bad file")
         << "cards ROOT" << Files{{"subcards/7.xml", lcd({})}, {"subcards/inputs/8.xml", "<DCS>"}}
         << QStringList{"subcards/7.xml: The file is not a valid configuration file for device.",
-                       "subcards/inputs/8.xml: Parse error at line 1, column 6: unexpected end of file"};
+                       "subcards/inputs/8.xml: Parse error at line 1, column 6: unexpected end of file",
+                       "connectors: device is empty"};
     QTest::newRow("an error that hides the one before")
         << "cards ROOT"
         << Files{{"subcards/7.xml", dcs("<Subcard/>")}, {"subcards/inputs/8.xml", dcs("<Subcards><S/></Subcards>")}}
@@ -265,7 +281,8 @@ void TestHost::namesTheFileOfEachProblem()
     const Result result = run(words, root.path());
     QCOMPARE(result.status, 1);
     const QString page = words.startsWith("load") ? result.out : result.complaints;
-    QTEST(problemsIn(page, root.path()).replaceInStrings(root.path() + '/', {}), "problems");
+    QFETCH(QStringList, problems);
+    QCOMPARE(problemsIn(page, root.path()).join('\n'), problems.join('\n'));
 }
 
 void TestHost::coloursOnlyATerminal_data()
@@ -291,12 +308,17 @@ void TestHost::coloursOnlyATerminal()
     const int held = open(ptsname(pty), O_RDWR | O_NOCTTY);
     const Result result = run("menu ROOT", root.path(), terminal ? ptsname(pty) : QString(), noColour);
     QByteArray shown = result.out.toUtf8();
-    char buffer[4096];
-    if (terminal) shown = QByteArray(buffer, int(std::max<ssize_t>(0, read(pty, buffer, sizeof buffer))));
+    // The terminal hands over what was written when it is ready to.
+    const auto isComplete = [&shown, pty] {
+        char buffer[4096];
+        const ssize_t count = read(pty, buffer, sizeof buffer);
+        if (count > 0) shown.append(buffer, int(count));
+        return shown.contains("output");
+    };
+    QTRY_VERIFY(isComplete());
     close(held);
     close(pty);
     QCOMPARE(result.status, 0);
-    QVERIFY(shown.contains("output"));
     QTEST(shown.contains('\033'), "coloured");
 }
 

@@ -20,10 +20,11 @@ void tellDevice(const Session& session, Page& page)
     const Lcd::s_Device device = session.devices().curDeviceConfigs();
     page.heading("Device");
     Table facts({words(), words()});
+    const auto given = [](const QString& value) { return value.isEmpty() ? "not given" : value; };
     if (!session.devices().DeviceConfigs().isEmpty()) {
-        facts.add({"Name", text(device.feature.name)});
-        facts.add({"Type name", session.devices().findDeviceTypeName()});
-        facts.add({"Brand", session.devices().getBrand()});
+        facts.add({"Name", given(text(device.feature.name))});
+        facts.add({"Type name", given(session.devices().findDeviceTypeName())});
+        facts.add({"Brand", given(session.devices().getBrand())});
         facts.add({"Module id", number(qulonglong(device.feature.moduleId))});
         facts.add({"Silk order", QString("%1 connectors").arg(device.silkOrders.size())});
     }

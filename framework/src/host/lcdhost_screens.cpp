@@ -2,6 +2,7 @@
 #include "lcdhost_commands.h"
 
 #include <algorithm>
+#include <map>
 
 namespace lcdhost {
 namespace {
@@ -16,7 +17,6 @@ public:
             for (const Lcd::s_Cell& cell : layout.cells) _others.append(whole(cell));
             return;
         }
-        _places.resize(std::size_t(_rows * _columns));
         const int first = countsFromOne(layout) ? 1 : 0;
         for (const Lcd::s_Cell& cell : layout.cells) place(cell, first);
     }
@@ -61,11 +61,7 @@ private:
         const int row = cell.row - first;
         const int column = cell.column - first;
         const bool inside = row >= 0 && row < _rows && column >= 0 && column < _columns;
-        const Lcd::s_Cell** const free = inside ? &_places[std::size_t(row * _columns + column)] : nullptr;
-        if (free == nullptr || *free != nullptr)
-            _others.append(whole(cell));
-        else
-            *free = &cell;
+        if (!inside || !_places.try_emplace({row, column}, &cell).second) _others.append(whole(cell));
     }
 
     void draw(Page& page) const
@@ -84,8 +80,8 @@ private:
     {
         QString line = "    |";
         for (int column = 0; column < _columns; ++column) {
-            const Lcd::s_Cell* const cell = _places[std::size_t(row * _columns + column)];
-            line += ' ' + padded(cell == nullptr ? QString() : textOf(*cell), _width) + " |";
+            const auto cell = _places.find({row, column});
+            line += ' ' + padded(cell == _places.end() ? QString() : textOf(*cell->second), _width) + " |";
         }
         page.line(line);
     }
@@ -93,7 +89,7 @@ private:
     int _rows;
     int _columns;
     int _width = 16;
-    std::vector<const Lcd::s_Cell*> _places; ///< Row by row; null where no cell is.
+    std::map<std::pair<int, int>, const Lcd::s_Cell*> _places; ///< By row and column, from 0.
     QStringList _others;
 };
 

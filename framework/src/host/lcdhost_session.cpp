@@ -99,7 +99,15 @@ Session::Session(QString root, const QString& language) : _root(std::move(root))
 bool Session::open(const QString& pluginPath)
 {
     // With a bare name the loader would look in the system's folders instead of here.
-    return _host.load(QFileInfo(pluginPath).absoluteFilePath().toStdString());
+    if (!_host.load(QFileInfo(pluginPath).absoluteFilePath().toStdString())) {
+        _error = QString::fromStdString(_host.error());
+        return false;
+    }
+    QStringList ids{USER_SETTINGS};
+    for (const Folder& folder : folders()) ids.append(folder.component);
+    for (const QString& id : ids)
+        if (_host.component(id.toStdString()) == nullptr) _error = pluginPath + " has no component " + id;
+    return _error.isEmpty();
 }
 
 QString Session::pathOf(const Folder& folder) const { return QDir(_root).filePath(folder.name); }

@@ -26,6 +26,9 @@ namespace lcdhost {
 
 namespace Lcd = LCD::MainConfig;
 
+/// The component of the user's settings, which stand outside every configuration root.
+inline constexpr char USER_SETTINGS[] = "lcd.lcdlanguageconfig";
+
 /// The catalogues of a configuration root, in the order in which they must be read.
 enum class Catalogue { Devices, Cards, Connectors, Menu, FunctionKeys, KeyChecks, LockAreas, Settings };
 
@@ -52,7 +55,7 @@ public:
 
     /// Loads the plug-in; false with error() set when that fails.
     bool open(const QString& pluginPath);
-    [[nodiscard]] QString error() const { return QString::fromStdString(_host.error()); }
+    [[nodiscard]] const QString& error() const { return _error; }
 
     /// The folder of the catalogue is there.
     [[nodiscard]] bool has(Catalogue catalogue) const;
@@ -78,10 +81,7 @@ public:
     [[nodiscard]] Lcd::IKeyCheckConfig& keyChecks() const { return get<Lcd::IKeyCheckConfig>("lcd.keycheckconfig"); }
     [[nodiscard]] Lcd::ILockAreaConfig& lockAreas() const { return get<Lcd::ILockAreaConfig>("lcd.lockareaconfig"); }
     [[nodiscard]] Lcd::ILcdConfig& settings() const { return get<Lcd::ILcdConfig>("lcd.lcdconfig"); }
-    [[nodiscard]] Lcd::ILcdLanguageConfig& userSettings() const
-    {
-        return get<Lcd::ILcdLanguageConfig>("lcd.lcdlanguageconfig");
-    }
+    [[nodiscard]] Lcd::ILcdLanguageConfig& userSettings() const { return get<Lcd::ILcdLanguageConfig>(USER_SETTINGS); }
 
     /// The text in the language of the session; the other one where it is empty.
     [[nodiscard]] QString inLanguage(const std::string& english, const std::string& chinese) const;
@@ -105,6 +105,7 @@ private:
     QString _root;
     bool _english;
     kpmhost::Host _host;
+    QString _error;
     QSet<int> _loaded;
     std::vector<Problem> _problems;
 };

@@ -71,7 +71,8 @@ template <class Config> QString read(const Config& config, const Value<Config>& 
 {
     if (const auto* const getter = std::get_if<int (Config::*)() const>(&value.getter))
         return number((config.**getter)());
-    return (config.*std::get<QString (Config::*)() const>(value.getter))();
+    const QString text = (config.*std::get<QString (Config::*)() const>(value.getter))();
+    return text.isEmpty() ? "-" : text;
 }
 
 void addKey(Table& table, int index, const QString& value)
