@@ -1,0 +1,115 @@
+// One run of the program: the plug-in with its components, the configuration root that they read, and all that they
+// found wrong in it.
+#ifndef LCDHOST_SESSION_H
+#define LCDHOST_SESSION_H
+
+#include "kpmhost.h"
+
+#include <lcdmainconfig/iconnectorconfig.h>
+#include <lcdmainconfig/ideviceconfig.h>
+#include <lcdmainconfig/ifnbuttonconfig.h>
+#include <lcdmainconfig/ikeycheckconfig.h>
+#include <lcdmainconfig/ilcdconfig.h>
+#include <lcdmainconfig/ilcdlanguageconfig.h>
+#include <lcdmainconfig/ilockareaconfig.h>
+#include <lcdmainconfig/imenuconfig.h>
+#include <lcdmainconfig/isubcardconfig.h>
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <string>
+#include <vector>
+
+namespace lcdhost {
+
+namespace Lcd = LCD::MainConfig;
+
+/// The component of the user's settings, which stand outside every configuration root.
+inline constexpr char USER_SETTINGS[] = "lcd.lcdlanguageconfig";
+
+/// The catalogues of a configuration root, in the order in which they must be read.
+enum class Catalogue { Devices, Cards, Connectors, Menu, FunctionKeys, KeyChecks, LockAreas, Settings };
+
+/// A catalogue's place in the root.
+struct Folder {
+    Catalogue catalogue;
+    const char* name;
+    const char* component;
+    const char* file; ///< The one file that is read there; null when there may be many.
+    bool (*read)(void* component, const QString& path, QString& error);
+};
+
+/// One thing that the library, or the program itself, found wrong.
+struct Problem {
+    QString where; ///< The file, or the folder where no single file is to blame.
+    QString text;
+    int times = 1; ///< How often the file gave this text.
+};
+
+class Session {
+public:
+    /// `language` is "en" or "zh_CN". From now on the program's log lines are collected and not printed.
+    Session(QString root, const QString& language);
+
+    /// Loads the plug-in; false with error() set when that fails.
+    bool open(const QString& pluginPath);
+    [[nodiscard]] const QString& error() const { return _error; }
+
+    /// The folder of the catalogue is there.
+    [[nodiscard]] bool has(Catalogue catalogue) const;
+    /// Reads one catalogue, or all of them. A folder that is missing is a problem, and is not read, since reading would
+    /// create it.
+    void load(Catalogue catalogue);
+    void loadAll();
+    /// The catalogue was read, and its component had no reason to stop.
+    [[nodiscard]] bool isLoaded(Catalogue catalogue) const { return _loaded.contains(int(catalogue)); }
+
+    [[nodiscard]] const std::vector<Problem>& problems() const { return _problems; }
+    /// The warnings logged since the last load or the last call.
+    static QStringList takeWarnings();
+
+    [[nodiscard]] Lcd::IDeviceConfig& devices() const { return get<Lcd::IDeviceConfig>("lcd.deviceconfig"); }
+    [[nodiscard]] Lcd::ISubcardConfig& cards() const { return get<Lcd::ISubcardConfig>("lcd.subcardconfig"); }
+    [[nodiscard]] Lcd::IConnectorConfig& connectors() const
+    {
+        return get<Lcd::IConnectorConfig>("lcd.connectorconfig");
+    }
+    [[nodiscard]] Lcd::IMenuConfig& menu() const { return get<Lcd::IMenuConfig>("lcd.menuconfig"); }
+    [[nodiscard]] Lcd::IFNButtonConfig& functionKeys() const { return get<Lcd::IFNButtonConfig>("lcd.fnbuttonconfig"); }
+    [[nodiscard]] Lcd::IKeyCheckConfig& keyChecks() const { return get<Lcd::IKeyCheckConfig>("lcd.keycheckconfig"); }
+    [[nodiscard]] Lcd::ILockAreaConfig& lockAreas() const { return get<Lcd::ILockAreaConfig>("lcd.lockareaconfig"); }
+    [[nodiscard]] Lcd::ILcdConfig& settings() const { return get<Lcd::ILcdConfig>("lcd.lcdconfig"); }
+    [[nodiscard]] Lcd::ILcdLanguageConfig& userSettings() const { return get<Lcd::ILcdLanguageConfig>(USER_SETTINGS); }
+
+    /// The text in the language of the session; the other one where it is empty.
+    [[nodiscard]] QString inLanguage(const std::string& english, const std::string& chinese) const;
+    /// The name of the first card of a model; empty when the catalogue has none.
+    [[nodiscard]] QString cardName(const Lcd::s_DCSSubcard& cards, std::uint64_t model) const;
+
+    [[nodiscard]] const QString& root() const { return _root; }
+    static const std::vector<Folder>& folders();
+
+private:
+    template <class Interface> [[nodiscard]] Interface& get(const char* id) const
+    {
+        return *_host.component<Interface>(id);
+    }
+    [[nodiscard]] QString pathOf(const Folder& folder) const;
+    void loadFolder(const Folder& folder, const QString& path);
+    void diagnose(const Folder& folder, const QString& path, QStringList unexplained);
+    [[nodiscard]] QStringList reportsOfFile(const Folder& folder, const QString& path, const QString& file) const;
+    void note(const QString& where, const QStringList& texts);
+
+    QString _root;
+    bool _english;
+    kpmhost::Host _host;
+    QString _error;
+    QSet<int> _loaded;
+    std::vector<Problem> _problems;
+};
+
+} // namespace lcdhost
+
+#endif
