@@ -90,7 +90,7 @@ QDomElement Reader::nextBelow(QDomElement element, const char* tag) const
         for (; after.isNull() && element != _element; element = element.parentNode().toElement())
             after = element.nextSiblingElement();
         element = after;
-    } while (!element.isNull() && element.tagName() != QLatin1String(tag));
+    } while (!element.isNull() && element.localName() != QLatin1String(tag));
     return element;
 }
 
