@@ -65,8 +65,10 @@ template <class Shape>
 bool readChild(const QDomElement& parent, const QLatin1String& tag, QString& error, s_RangeValue& out,
                const Shape& shape)
 {
-    const QByteArray name(tag.data(), tag.size());
-    return readElement(parent, Report{error}, out, below(name.constData(), OnNull::Fail, shape));
+    const auto child = [&](const Reader& in, s_RangeValue& range) {
+        if (const auto element = in.find(QString(tag), OnNull::Fail)) element->read(range, shape);
+    };
+    return readElement(parent, Report{error}, out, child);
 }
 
 } // namespace

@@ -16,7 +16,7 @@ inline constexpr auto flags = reading::cells(reading::Support("1"), reading::Edi
 inline constexpr auto place = reading::cells(reading::RelativePath, reading::AbsolutePath);
 
 /// Allowed values, for a member that is the bare list.
-constexpr auto enumList(reading::Walk walk, const char* readDefault = "")
+constexpr auto enumList(reading::Walk walk, reading::Literal readDefault = "")
 {
     return reading::list(walk, "Enum", std::identity{}, reading::Value(readDefault));
 }

@@ -31,12 +31,16 @@ struct FnDefaults {
 // clang-format off
 void readBindings(const Reader& in, FnDefaults& defaults)
 {
-    const QByteArray defaultType = QByteArray::number(defaults.defaultVal);
+    // The read default of this one attribute comes from the file itself.
+    const auto type = [&](const Reader& binding, s_FnDefaultBinding& record) {
+        record.type = defaults.defaultVal;
+        if (binding.hasAttribute("type")) binding.read(record, cell("type", &s_FnDefaultBinding::type));
+    };
     defaults.bindings.clear();
     in.list(Walk::Named, "FN", defaults.bindings,
             cell("index",  &s_FnDefaultBinding::index),
             cell("lcdKey", &s_FnDefaultBinding::lcdKey),
-            cell("type",   &s_FnDefaultBinding::type,   defaultType.constData()),
+            type,
             cell("target", &s_FnDefaultBinding::target, "0"),
             cell("remark", &s_FnDefaultBinding::remark));
 }

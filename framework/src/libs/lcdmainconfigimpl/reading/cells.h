@@ -14,13 +14,13 @@ namespace LCD::MainConfigImpl::reading {
 
 /// One attribute and the field it fills. `Access` gives the field of a record: a member pointer or a function.
 template <class Access, class Convert = Plain> struct Attribute {
-    const char* name;
+    Literal name;
     Access access;
     Convert convert{};
-    const char* readDefault = "";
+    Literal readDefault = "";
 
     /// The same cell with another read default.
-    constexpr Attribute operator()(const char* otherDefault) const { return {name, access, convert, otherDefault}; }
+    constexpr Attribute operator()(Literal otherDefault) const { return {name, access, convert, otherDefault}; }
 
     /// Fills the field. False when the text was no number of the field's kind, which few readers look at.
     template <class Record>
@@ -31,8 +31,8 @@ template <class Access, class Convert = Plain> struct Attribute {
     }
 };
 
-template <class Access> Attribute(const char*, Access) -> Attribute<Access>;
-template <class Access, class Convert> Attribute(const char*, Access, Convert) -> Attribute<Access, Convert>;
+template <class Access> Attribute(Literal, Access) -> Attribute<Access>;
+template <class Access, class Convert> Attribute(Literal, Access, Convert) -> Attribute<Access, Convert>;
 
 // clang-format off
 inline constexpr Attribute Support    {"Support",     [](auto& record) -> decltype((record.support))     { return record.support; }};
@@ -54,17 +54,13 @@ inline constexpr Attribute AbsolutePath{"AbsolutePath", [](auto& record) -> decl
 
 /// An attribute over any member, for the ones that few elements have. Empty read default unless told.
 template <class Access, class Convert = Plain>
-constexpr Attribute<Access, Convert> cell(const char* name, Access access, const char* readDefault = "",
-                                          Convert convert = {})
+constexpr Attribute<Access, Convert> cell(Literal name, Access access, Literal readDefault = "", Convert convert = {})
 {
     return {name, access, convert, readDefault};
 }
 
 /// An attribute that is the whole entry of a list of plain numbers.
-constexpr auto entry(const char* name, const char* readDefault = "")
-{
-    return cell(name, std::identity{}, readDefault);
-}
+constexpr auto entry(Literal name, Literal readDefault = "") { return cell(name, std::identity{}, readDefault); }
 
 /// Several cells as one: the shape of an element that stands in many places.
 template <class... Cells> constexpr auto cells(Cells... parts)
@@ -84,8 +80,7 @@ template <class... Cells> constexpr auto whole(Cells... parts)
 }
 
 /// A list below the element, into a member of its record.
-template <class Access, class... Cells>
-constexpr auto list(Walk walk, const char* tag, Access access, Cells... parts)
+template <class Access, class... Cells> constexpr auto list(Walk walk, Literal tag, Access access, Cells... parts)
 {
     return [walk, tag, access, parts...](const Reader& in, auto& record) {
         in.list(walk, tag, std::invoke(access, record), parts...);
@@ -93,8 +88,7 @@ constexpr auto list(Walk walk, const char* tag, Access access, Cells... parts)
 }
 
 /// A child of the element, into a member of its record.
-template <class Access, class... Cells>
-constexpr auto child(const char* tag, OnNull onNull, Access access, Cells... parts)
+template <class Access, class... Cells> constexpr auto child(Literal tag, OnNull onNull, Access access, Cells... parts)
 {
     return [tag, onNull, access, parts...](const Reader& in, auto& record) {
         in.element(tag, onNull, std::invoke(access, record), parts...);
@@ -102,7 +96,7 @@ constexpr auto child(const char* tag, OnNull onNull, Access access, Cells... par
 }
 
 /// A child of the element whose cells fill the element's own record.
-template <class... Cells> constexpr auto below(const char* tag, OnNull onNull, Cells... parts)
+template <class... Cells> constexpr auto below(Literal tag, OnNull onNull, Cells... parts)
 {
     return child(tag, onNull, std::identity{}, parts...);
 }
@@ -114,7 +108,7 @@ template <class Access, class... Cells> constexpr auto part(Access access, const
 }
 
 /// The list of allowed values of a setting: elements whose attribute "Value" goes to `enums` of the record.
-constexpr auto enums(Walk walk, const char* readDefault = "", const char* tag = "Enum")
+constexpr auto enums(Walk walk, Literal readDefault = "", Literal tag = "Enum")
 {
     return list(
         walk, tag, [](auto& record) -> decltype((record.enums)) { return record.enums; }, Value(readDefault));

@@ -2,12 +2,14 @@
 // what its absence costs, the record it fills and the cells that fill it. A cell is anything that can be called with a
 // Reader and a record: an attribute with its read default, a list, or a reader function.
 //
-// All look-ups of all readers pass through text(), find() and each(): they are where an observer would listen to what
-// was asked for, what was there and what was no number.
+// All look-ups of all readers pass through a few functions of this class, and each of them knows its element: text()
+// and hasAttribute() for attributes, field() for what was no number, find(), has() and each() for children. They are
+// where an observer would listen to what was asked for and what was there.
 #ifndef LCDMAINCONFIGIMPL_READING_READER_H
 #define LCDMAINCONFIGIMPL_READING_READER_H
 
 #include "convert.h"
+#include "literal.h"
 
 #include <QDomElement>
 
@@ -48,7 +50,7 @@ struct Report {
     Translate translate = nullptr;          ///< Null: the texts stand as they are.
     const char* invalidNode = INVALID_NODE; ///< For the kinds of file that word an absent element in their own way.
 
-    /// The text in the language of the moment.
+    /// The text, passed through `translate` where there is one.
     [[nodiscard]] QString say(const char* text) const;
     /// The same with `value` in place of "%1", which some wordings of a message do not have.
     [[nodiscard]] QString say(const char* text, const QString& value) const;
@@ -61,8 +63,8 @@ public:
 
     /// Whether a row has failed; every later row of the scope does nothing.
     [[nodiscard]] bool failed() const { return *_failed; }
-    [[nodiscard]] bool has(const char* tag) const { return !_element.firstChildElement(QLatin1String(tag)).isNull(); }
-    [[nodiscard]] bool hasAttribute(const char* name) const { return _element.hasAttribute(QLatin1String(name)); }
+    [[nodiscard]] bool has(Literal tag) const { return !_element.firstChildElement(tag.string()).isNull(); }
+    [[nodiscard]] bool hasAttribute(Literal name) const { return _element.hasAttribute(name.string()); }
     /// Whether the element holds anything at all, be it only a comment.
     [[nodiscard]] bool hasContent() const { return _element.hasChildNodes(); }
     [[nodiscard]] QString tag() const { return _element.tagName(); }
@@ -70,18 +72,18 @@ public:
     [[nodiscard]] const QDomElement& element() const { return _element; }
 
     /// Fails the scope with a message about `tag`, for rows whose wording or tag is not the usual one.
-    void fail(const char* tag, const char* message = nullptr) const;
+    void fail(Literal tag, const char* message = nullptr) const;
     /// Sets a message about `tag` and goes on.
-    void note(const char* tag, const char* message = nullptr) const;
+    void note(Literal tag, const char* message = nullptr) const;
 
     /// The message that was left last, for subtrees that log theirs in a way of their own.
     [[nodiscard]] const QString& message() const { return _report->error; }
 
     /// The attribute's text, or the read default when it is absent.
-    [[nodiscard]] QString text(const char* name, const char* readDefault = "") const;
+    [[nodiscard]] QString text(Literal name, Literal readDefault = "") const;
     /// Reads one attribute into a field. False when its text was no number of the field's kind.
     template <class Field, class Convert = Plain>
-    bool field(const char* name, const char* readDefault, Field& target, const Convert& convert = {}) const
+    bool field(Literal name, Literal readDefault, Field& target, const Convert& convert = {}) const
     {
         return convert(text(name, readDefault), target);
     }
@@ -94,14 +96,14 @@ public:
 
     /// Reads the first child `tag` into `target`. A failure inside it is a failure of this reader.
     template <class Record, class... Cells>
-    void element(const char* tag, OnNull onNull, Record& target, const Cells&... cells) const
+    void element(Literal tag, OnNull onNull, Record& target, const Cells&... cells) const
     {
         if (const auto child = find(tag, onNull)) child->read(target, cells...);
     }
 
     /// As element(), but a failure inside ends only this child; what was stored before it stays.
     template <class Record, class... Cells>
-    void apart(const char* tag, OnNull onNull, Record& target, const Cells&... cells) const
+    void apart(Literal tag, OnNull onNull, Record& target, const Cells&... cells) const
     {
         bool failed = false;
         if (const auto child = find(tag, onNull)) child->scoped(failed).read(target, cells...);
@@ -109,7 +111,7 @@ public:
 
     /// As apart(), but the child is built aside and stored whole or not at all.
     template <class Record, class... Cells>
-    void staged(const char* tag, OnNull onNull, Record& target, const Cells&... cells) const
+    void staged(Literal tag, OnNull onNull, Record& target, const Cells&... cells) const
     {
         bool failed = false;
         Record aside{};
@@ -120,7 +122,7 @@ public:
     }
 
     /// Reads the child's text, verbatim: the value of its first child node.
-    void content(const char* tag, OnNull onNull, std::string& target) const;
+    void content(Literal tag, OnNull onNull, std::string& target) const;
 
     /// Appends one entry to `target`, read from this element; none when the scope fails.
     template <class List, class... Cells> void append(List& target, const Cells&... cells) const
@@ -131,15 +133,14 @@ public:
     }
 
     /// Appends one entry to `target` for each element of the walk. A failure inside an entry is one of this reader.
-    template <class List, class... Cells>
-    void list(Walk walk, const char* tag, List& target, const Cells&... cells) const
+    template <class List, class... Cells> void list(Walk walk, Literal tag, List& target, const Cells&... cells) const
     {
         each(walk, tag, [&](const Reader& in) { in.append(target, cells...); });
     }
 
     /// As list(), but an entry that fails is dropped and the walk goes on with the next.
     template <class List, class... Cells>
-    void stagedList(Walk walk, const char* tag, List& target, const Cells&... cells) const
+    void stagedList(Walk walk, Literal tag, List& target, const Cells&... cells) const
     {
         each(walk, tag, [&](const Reader& in) {
             bool failed = false;
@@ -148,7 +149,7 @@ public:
     }
 
     /// Calls `visit(reader)` on each element of the walk until the scope fails. The tag counts for the named walks.
-    template <class Visit> void each(Walk walk, const char* tag, const Visit& visit) const
+    template <class Visit> void each(Walk walk, Literal tag, const Visit& visit) const
     {
         for (QDomElement child = first(walk, tag); !failed() && !child.isNull(); child = next(child, walk, tag))
             visit(Reader(child, *_report, *_failed));
@@ -156,9 +157,10 @@ public:
 
     /// The first child `tag`, for walks that come back to it. When it is absent the scope fails, and a reader on a null
     /// element is returned, whose rows do nothing.
-    [[nodiscard]] Reader required(const char* tag) const;
+    [[nodiscard]] Reader required(Literal tag) const;
     /// The first child `tag`; nothing when it is absent (unless a null element is to be read) or the scope has failed.
-    [[nodiscard]] std::optional<Reader> find(const char* tag, OnNull onNull) const;
+    [[nodiscard]] std::optional<Reader> find(Literal tag, OnNull onNull) const { return find(tag.string(), onNull); }
+    [[nodiscard]] std::optional<Reader> find(const QString& tag, OnNull onNull) const;
 
     /// The first child of any tag, for files that tell what they hold by it; nothing when there is none.
     [[nodiscard]] std::optional<Reader> firstChild() const;
@@ -171,10 +173,10 @@ private:
     {
         if (!failed()) cell(*this, record);
     }
-    void leave(const char* tag, const char* message, bool log) const;
-    [[nodiscard]] QDomElement first(Walk walk, const char* tag) const;
-    [[nodiscard]] QDomElement next(const QDomElement& child, Walk walk, const char* tag) const;
-    [[nodiscard]] QDomElement nextBelow(QDomElement element, const char* tag) const;
+    void leave(const QString& tag, const char* message, bool log) const;
+    [[nodiscard]] QDomElement first(Walk walk, Literal tag) const;
+    [[nodiscard]] QDomElement next(const QDomElement& child, Walk walk, Literal tag) const;
+    [[nodiscard]] QDomElement nextBelow(QDomElement element, Literal tag) const;
 
     QDomElement _element;
     const Report* _report;
