@@ -103,13 +103,13 @@ public:
 
     /// Whether the file has a section SourceCustomSort. No store: false.
     virtual bool hasSourceCustomSort() const = 0;
-    /// Writes one entry of SourceCustomSort, at once. Only a name of two parts joined by "_" comes back from
-    /// getSourceCustomSort.
+    /// Writes one entry of SourceCustomSort, at once and without the flush. Only a name of two parts joined by "_"
+    /// comes back from getSourceCustomSort.
     virtual void setSourceCustomSort(const QString& name, int value) = 0;
     /// The entries of SourceCustomSort whose name is two parts joined by "_"; others are skipped. None: empty. No
     /// store: empty.
     virtual std::vector<s_SourceCustomSort> getSourceCustomSort() const = 0;
-    /// Clears every entry of the named sections. Takes no lock, which is meant.
+    /// Clears every entry of the named sections, at once and without the flush. Takes no lock, which is meant.
     virtual void removeGroups(const QStringList& groups) = 0;
 
     /// Writes ScreenLight/ScreenLightValue.

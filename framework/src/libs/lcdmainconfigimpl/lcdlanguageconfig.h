@@ -12,7 +12,8 @@ using namespace LCD::MainConfig;
 
 class LcdLanguageConfig final : public ILcdLanguageConfig {
 public:
-    LcdLanguageConfig();
+    /// The path is another one in tests alone.
+    explicit LcdLanguageConfig(const QString& path = QStringLiteral("/userdata/log/lcd/ini/lcdsetting.ini"));
     ~LcdLanguageConfig() override;
     LcdLanguageConfig(const LcdLanguageConfig&) = delete;
     LcdLanguageConfig& operator=(const LcdLanguageConfig&) = delete;
