@@ -74,7 +74,7 @@ void TestDeviceDirectory::readsEachFileByItsName_data()
     };
     // A bad file before this one left its text; only a file that is no XML puts its own in the place of it.
     const QString stays = "Parse error at line 2, column 1:\nunexpected end of file";
-    for (const char* kind : {"feature", "slot", "silk", "screen", "layer", "nothing"}) {
+    for (const char* kind : {"feature", "slot", "silk", "screen", "layer", "silk_screen_layer", "nothing"}) {
         bad("malformed", kind, "<DCS>", "Parse error at line 1, column 6:\nunexpected end of file");
         bad("unreadable", kind, {}, "Fail to open file [%1]!");
         bad("refused", kind, "<DCS/>", stays, qstrcmp(kind, "nothing") ? ", Error: Invalid [Device] node." : "");
@@ -109,15 +109,15 @@ void TestDeviceDirectory::makesTheDirectory()
     const QString belowAFile = folder.write("file", {}) + "/device";
     QVERIFY(!config.readConfig(belowAFile, error));
     QCOMPARE(error, "Invalid file path!\n" + belowAFile);
-    QVERIFY(config.DeviceConfigs().isEmpty());
 
     // A relative path too, and nothing is made but what it names.
-    const QString made = folder.path("new/device");
+    QVERIFY(QDir::setCurrent(folder.path()));
     for (const int devices : {1, 2}) {
-        QVERIFY(config.readConfig(QDir::current().relativeFilePath(made), error));
-        QVERIFY(QDir(made).exists() && QDir(made).isEmpty());
+        QVERIFY(config.readConfig("new/device", error));
+        QVERIFY(QDir("new/device").exists() && QDir("new/device").isEmpty());
         QCOMPARE(config.DeviceConfigs().size(), devices);
     }
+    QVERIFY(QDir::setCurrent(QDir::rootPath()));
     QCOMPARE(config.DeviceConfigs().last().feature.name, std::string("system1"));
 }
 

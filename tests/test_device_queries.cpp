@@ -45,18 +45,18 @@ void TestDeviceQueries::groups()
 {
     DeviceConfig none, config;
     devices(config) = {s_Device(), s_Device()};
-    s_Device& device = devices(config).first();
-    s_DeviceFeature& feature = device.feature;
+    s_Device& first = devices(config).first();
+    s_DeviceFeature& feature = first.feature;
     feature.funcFeatures.switchEffect.type.enums.resize(2);
-    device.silkOrders.resize(2);
-    device.screens.resize(2);
-    device.layers.resize(2);
-    s_DCSScreen& screen = device.screens.first();
+    first.silkOrders.resize(2);
+    first.screens.resize(2);
+    first.layers.resize(2);
+    s_DCSScreen& screen = first.screens.first();
     screen.deviceModes.resize(2);
     auto& layerTypes = screen.deviceModes[0].layerTypes;
     layerTypes.resize(1);
     for (const int twin : {0, 1})
-        device.screens[twin].type = device.layers[twin].type = screen.deviceModes.at(std::size_t(twin)).value = 1;
+        first.screens[twin].type = first.layers[twin].type = screen.deviceModes.at(std::size_t(twin)).value = 1;
 
     const LogLines log;
     // `ask` gets a type; `noType` is what an unknown one is warned of, null in a query without a type. The queries
@@ -71,29 +71,29 @@ void TestDeviceQueries::groups()
         QCOMPARE(asked(none, 1), (QStringList{query, empty, qstrcmp(empty, "null") ? NO_NUMBER : NO_DEVICE}));
     };
     // clang-format off
-    row("preset",         feature.preset.support,                [](auto& d, int) { return show(d.presetConfigs()); });
-    row("ptzs",           feature.ptzs.support,                  [](auto& d, int) { return show(d.ptzsConfigs()); });
-    row("cleanFeeds",     feature.cleanFeeds.support,            [](auto& d, int) { return show(d.cleanFeedsConfigs()); });
-    row("tally",          feature.tally.support,                 [](auto& d, int) { return show(d.tallyConfigs()); });
-    row("internalSource", feature.internalSource.support,        [](auto& d, int) { return show(d.internalSourceConfigs()); });
-    row("mosaicSource",   feature.mosaicSource.support,          [](auto& d, int) { return show(d.inputMOSAICConfigs()); });
-    row("language",       feature.funcFeatures.language.support, [](auto& d, int) { return show(d.languageConfigs()); });
-    row("quickToPology", feature.funcFeatures.quickToPology.support, [](auto& d, int) { return show(d.quickConfigurationConfigs()); });
-    row("record",         feature.funcFeatures.record.support,   [](auto& d, int) { return show(d.recodeSettingConfigs()); });
-    row("genlock",        feature.funcFeatures.genlock.support,  [](auto& d, int) { return show(d.genlockConfigs()); });
-    row("mediaPool",      feature.funcFeatures.mediaPool.support, [](auto& d, int) { return show(d.mediaPoolCfg()); });
-    row("effect",         feature.funcFeatures.switchEffect.effect.support, [](auto& d, int) { return show(d.effectConfigs()); });
-    row("effect types", feature.funcFeatures.switchEffect.type.enums[0].value, [](auto& d, int) { return show(d.findEffectTypes()); });
-    row("silk orders",    device.silkOrders[0].order,            [](auto& d, int) { return show(d.silkConfigs()); });
-    row("screen",         screen.support,                  [](auto& d, int t) { return show(d.screenConfigs(t)); }, "screen type(7)");
-    row("screen genlock", screen.features.genlock.support, [](auto& d, int t) { return show(d.genlockScreenConfigs(t)); }, "screen type(7)");
-    row("threeD",         screen.features.threeD.value,    [](auto& d, int t) { return show(d.screenThreeDConfigs(t)); }, "screen type(7)");
-    row("layer",          device.layers[0].window.info.support, [](auto& d, int t) { return show(d.layerConfigs(t)); }, "layer type(7)");
-    row("cutout", device.layers[0].cutoutGeneral.info.support, [](auto& d, int t) { return show(d.layerCutoutConfigs(t)); }, "layer type:(7)");
-    row("window", device.layers[0].window.info.support, [](auto& d, int t) { return show(d.findLayerWindowDefaultRange(t)); }, "", "0");
-    row("rates",  screen.features.senderGenLock.support, [](auto& d, int t) { return show(d.findFramerates(t)); }, "", "0");
-    row("layers of a screen", layerTypes[0].layerType, [](auto& d, int t) { return show(d.findLayerTypes(t, 1)); }, "", "none");
-    row("layers of a mode",   layerTypes[0].layerType, [](auto& d, int t) { return show(d.findLayerTypes(1, t)); }, "", "none");
+    row("preset",          feature.preset.support,                 [](auto& d, int) { return show(d.presetConfigs()); });
+    row("ptzs",            feature.ptzs.support,                   [](auto& d, int) { return show(d.ptzsConfigs()); });
+    row("cleanFeeds",      feature.cleanFeeds.support,             [](auto& d, int) { return show(d.cleanFeedsConfigs()); });
+    row("tally",           feature.tally.support,                  [](auto& d, int) { return show(d.tallyConfigs()); });
+    row("internalSource",  feature.internalSource.support,         [](auto& d, int) { return show(d.internalSourceConfigs()); });
+    row("mosaicSource",    feature.mosaicSource.support,           [](auto& d, int) { return show(d.inputMOSAICConfigs()); });
+    row("language",        feature.funcFeatures.language.support,  [](auto& d, int) { return show(d.languageConfigs()); });
+    row("quickToPology",   feature.funcFeatures.quickToPology.support, [](auto& d, int) { return show(d.quickConfigurationConfigs()); });
+    row("record",          feature.funcFeatures.record.support,    [](auto& d, int) { return show(d.recodeSettingConfigs()); });
+    row("genlock",         feature.funcFeatures.genlock.support,   [](auto& d, int) { return show(d.genlockConfigs()); });
+    row("mediaPool",       feature.funcFeatures.mediaPool.support, [](auto& d, int) { return show(d.mediaPoolCfg()); });
+    row("effect",          feature.funcFeatures.switchEffect.effect.support, [](auto& d, int) { return show(d.effectConfigs()); });
+    row("effects",         feature.funcFeatures.switchEffect.type.enums[0].value, [](auto& d, int) { return show(d.findEffectTypes()); });
+    row("silk",            first.silkOrders[0].order,              [](auto& d, int) { return show(d.silkConfigs()); });
+    row("screen",          screen.support, [](auto& d, int t) { return show(d.screenConfigs(t)); }, "screen type(7)");
+    row("screen lock", screen.features.genlock.support, [](auto& d, int t) { return show(d.genlockScreenConfigs(t)); }, "screen type(7)");
+    row("threeD",          screen.features.threeD.value, [](auto& d, int t) { return show(d.screenThreeDConfigs(t)); }, "screen type(7)");
+    row("layer",           first.layers[0].window.info.support,    [](auto& d, int t) { return show(d.layerConfigs(t)); }, "layer type(7)");
+    row("cut", first.layers[0].cutoutGeneral.info.support, [](auto& d, int t) { return show(d.layerCutoutConfigs(t)); }, "layer type:(7)");
+    row("area", first.layers[0].window.info.support, [](auto& d, int t) { return show(d.findLayerWindowDefaultRange(t)); }, "", "0");
+    row("rates",           screen.features.senderGenLock.support,  [](auto& d, int t) { return show(d.findFramerates(t)); }, "", "0");
+    row("screen, layers",  layerTypes[0].layerType,                [](auto& d, int t) { return show(d.findLayerTypes(t, 1)); }, "", "none");
+    row("mode, layers",    layerTypes[0].layerType,                [](auto& d, int t) { return show(d.findLayerTypes(1, t)); }, "", "none");
     // clang-format on
 }
 
