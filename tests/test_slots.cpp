@@ -73,12 +73,12 @@ void TestSlots::readsEachClassInItsOwnWay()
     // clang-format off
     const std::tuple<const char*, s_SlotAttr s_Slots::*, const char*> classes[] = {
         {"MainControl", &s_Slots::mainControlCardSlots, "#4 #4 #0 #0 2147483648 0 #4:4294967296 #4:0"},
-        {"Input",       &s_Slots::inputCardSlots, "#4 #4 0 18446744073709551615 #4:4294967296 #4:0"},
+        {"Input",       &s_Slots::inputCardSlots,       "#4 #4 0 18446744073709551615 #4:4294967296 #4:0"},
         {"Output",      &s_Slots::outputCardSlots,      "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"},
-        {"Mix",         &s_Slots::mixCardSlots,  "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:18446744073709551614 =1A =2 =3"},
-        {"MVR",         &s_Slots::mvrCardSlots,  "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"},
-        {"AUX",         &s_Slots::auxCardSlots,  "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"},
-        {"EXP",         &s_Slots::expCardSlots,  "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"}};
+        {"Mix",         &s_Slots::mixCardSlots, "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:18446744073709551614 =1A =2 =3"},
+        {"MVR",         &s_Slots::mvrCardSlots,         "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"},
+        {"AUX",         &s_Slots::auxCardSlots,         "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"},
+        {"EXP",         &s_Slots::expCardSlots,         "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"}};
     // clang-format on
     QString body;
     for (const auto& row : classes) body += xml.arg(std::get<0>(row));
