@@ -105,6 +105,26 @@ private Q_SLOTS:
         QCOMPARE(int(copy->getSourceCustomSort().size()), 8);
     }
 
+    /// Clearing takes no lock, and so may make QSettings forget that a value is still to be written.
+    void closesWithWhatWasSetLast()
+    {
+        const Folder folder;
+        const QString path = folder.write("lcdsetting.ini", "");
+        for (int round = 1; round <= 1000; ++round) {
+            auto store = std::make_unique<SettingsStore>();
+            store->open(path);
+            std::atomic<bool> clearing = true;
+            std::thread other([&] {
+                while (clearing) store->changeUnlocked([](IniFile& file) { file.write(); });
+            });
+            for (int n = 0; n < 4; ++n) store->change([&](QSettings& file) { file.setValue("Section/entry", round + n); });
+            clearing = false;
+            other.join();
+            store.reset();
+            QCOMPARE(QSettings(path, QSettings::IniFormat).value("Section/entry").toInt(), round + 3);
+        }
+    }
+
     void answersWithoutALock()
     {
         Factory panel("[CompanyAddress]\nCompanyAddressDefault=here\n[LcdWidget]\nSwitchBackground=blue\n"
