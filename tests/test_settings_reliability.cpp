@@ -1,4 +1,5 @@
 // What must not be lost: by eight threads on one store, by a kill amid writes, by a storage that takes nothing more.
+#include "settings/settingsstore.h"
 #include "settings_support.h"
 
 #include <csignal>
