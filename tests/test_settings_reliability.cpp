@@ -112,13 +112,14 @@ private Q_SLOTS:
         const Folder folder;
         const QString path = folder.write("lcdsetting.ini", "");
         for (int round = 1; round <= 1000; ++round) {
-            auto store = std::make_unique<SettingsStore>();
+            auto store = std::make_unique<LCD::MainConfigImpl::SettingsStore>();
             store->open(path);
             std::atomic<bool> clearing = true;
             std::thread other([&] {
-                while (clearing) store->changeUnlocked([](IniFile& file) { file.write(); });
+                while (clearing) store->changeUnlocked([](LCD::MainConfigImpl::IniFile& file) { file.write(); });
             });
-            for (int n = 0; n < 4; ++n) store->change([&](QSettings& file) { file.setValue("Section/entry", round + n); });
+            for (int n = 0; n < 4; ++n)
+                store->change([&](QSettings& file) { file.setValue("Section/entry", round + n); });
             clearing = false;
             other.join();
             store.reset();
