@@ -4,28 +4,28 @@
 
 using namespace LCD::MainConfig;
 using LCD::MainConfigImpl::DeviceConfig;
+using Files = QMap<QString, QString>; ///< Contents by name; null is a directory of that name.
 
 namespace {
 
-/// A file that every reader but the layers' takes; whichever it was, `number` tells the file.
-QString anyKind(int number)
+/// A file with a number that is kept by each reader that takes it. It has no layer: the reader of layers refuses it.
+QString numbered(int number)
 {
     return QString(R"(<DCS><Device ModuleId="%1"><Features/><HDR/><Preset><PresetCount/></Preset>
-        <Slots><MainControlCardSlots InterfaceType="%1"/></Slots><Keys><Key Order="%1"/></Keys>
+        <Slots><MainControlCardSlots><Slot Index="%1"/></MainControlCardSlots></Slots><Keys><Key Order="%1"/></Keys>
         <Screens><Screen Type="%1"/></Screens></Device></DCS>)")
         .arg(number);
 }
 
-/// The numbers of the files that each kind's record came from.
-QString origins(const s_Device& device)
+/// The numbers that the device's records kept, where they are not the defaults, and the log.
+QString outcome(const s_Device& device, const LogLines& log)
 {
-    QString text = QString("feature %1, slot %2, silk")
-                       .arg(device.feature.moduleId)
-                       .arg(device.slots.mainControlCardSlots.interfaceType);
-    for (const s_SilkOrder& key : device.silkOrders) text += " " + QString::number(key.order);
-    text += ", screen";
-    for (const s_DCSScreen& screen : device.screens) text += " " + QString::number(screen.type);
-    return text;
+    QStringList all;
+    if (device.feature.moduleId != 0xFFFF) all += QString("feature %1").arg(device.feature.moduleId);
+    for (const s_Slot& slot : device.slots.mainControlCardSlots.slots) all += QString("slot %1").arg(slot.index);
+    for (const s_SilkOrder& key : device.silkOrders) all += QString("silk %1").arg(key.order);
+    for (const s_DCSScreen& screen : device.screens) all += QString("screen %1").arg(screen.type);
+    return (all + log.taken()).join(", ");
 }
 
 } // namespace
@@ -34,88 +34,69 @@ class TestDeviceDirectory : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void classifiesByName_data();
-    void classifiesByName();
-    void aBadFileCostsItself_data();
-    void aBadFileCostsItself();
+    void readsEachFileByItsName_data();
+    void readsEachFileByItsName();
     void makesTheDirectory();
 };
 
-void TestDeviceDirectory::classifiesByName_data()
+void TestDeviceDirectory::readsEachFileByItsName_data()
 {
-    QTest::addColumn<QStringList>("names"); // Numbered from 1.
+    QTest::addColumn<Files>("files");
     QTest::addColumn<QString>("expected");
-    // clang-format off
-    QTest::newRow("an empty directory")            << QStringList{}                                               << "feature 65535, slot 0, silk, screen";
-    QTest::newRow("each kind by a part of a name") << QStringList{"xfeature.xml", "slots.xml", "a.silk.xml", "my_screen_1.xml"} << "feature 1, slot 2, silk 3, screen 4";
-    QTest::newRow("names are case-sensitive")      << QStringList{"Feature.xml", "SLOT.xml", "silK.xml", "Screen.xml"} << "feature 65535, slot 0, silk, screen";
-    QTest::newRow("the extension is not")          << QStringList{"slot.XML", "silk.txt", "screen.xml.bak"}       << "feature 65535, slot 1, silk, screen";
-    QTest::newRow("sound is no feature")           << QStringList{"feature.xml", "feature_sound.xml"}             << "feature 1, slot 0, silk, screen";
-    QTest::newRow("sound falls through")           << QStringList{"feature_sound_slot.xml", "sound_silk.xml"}     << "feature 65535, slot 1, silk 2, screen";
-    QTest::newRow("a later file replaces")         << QStringList{"B_feature.xml", "a_feature.xml", "b_slot.xml", "A_slot.xml"} << "feature 1, slot 3, silk, screen";
-    QTest::newRow("lists are joined by name")      << QStringList{"silk_b.xml", "silk_A.xml", "screen_2.xml", "screen_1.xml"} << "feature 65535, slot 0, silk 2 1, screen 4 3";
-    QTest::newRow("a feature is nothing else")     << QStringList{"feature_slot_silk_screen.xml"}                 << "feature 1, slot 0, silk, screen";
-    QTest::newRow("a slot file is nothing else")   << QStringList{"screen_silk_slot.xml"}                         << "feature 65535, slot 1, silk, screen";
-    QTest::newRow("a silk file may be a screen")   << QStringList{"screen_silk.xml"}                              << "feature 65535, slot 0, silk 1, screen 1";
-    // clang-format on
-}
-
-void TestDeviceDirectory::classifiesByName()
-{
-    QFETCH(QStringList, names);
-    const Folder folder;
-    for (int i = 0; i < names.size(); ++i) folder.write(names[i], anyKind(i + 1));
-    const LogLines log;
-    DeviceConfig config;
-    QString error = "earlier";
-    QVERIFY(config.readConfig(folder.path(), error));
-    QTEST(origins(config.DeviceConfigs().first()), "expected");
-    QCOMPARE(error, QString("earlier"));
-    QCOMPARE(log.taken(), QStringList());
-}
-
-void TestDeviceDirectory::aBadFileCostsItself_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("xml");   // Null: a directory of that name.
     QTest::addColumn<QString>("error"); // %1: the directory that is loaded.
-    QTest::addColumn<QStringList>("logged");
-    const QString malformed = "Parse error at line 1, column 6:\nunexpected end of file";
-    const QStringList noDevice{"Error: Invalid [Device] node."};
-    for (const char* name :
-         {"z_feature.xml", "z_slot.xml", "z_silk.xml", "z_screen.xml", "z_silk_screen.xml", "z_layer.xml", "z.xml"}) {
-        QTest::addRow("malformed: %s", name) << name << "<DCS>" << malformed << QStringList{};
-        QTest::addRow("unreadable: %s", name) << name << QString() << "Fail to open file [%1]!" << QStringList{};
-        if (!QByteArray(name).startsWith("z_") || QByteArray(name).contains("layer")) continue;
-        QTest::addRow("refused: %s", name) << name << "<DCS/>" << QString() << noDevice;
-    }
-    // A reader's record of a refused file is not kept, however far it came.
+    const auto row = [](const QString& rule, const QStringList& names, const QString& expected,
+                        const Files& badFiles = {}, const QString& error = "earlier") {
+        Files files = badFiles;
+        for (const QString& name : names) files[name] = numbered(names.indexOf(name) + 1);
+        QTest::newRow(qPrintable(rule)) << files << expected << error;
+    };
+    const QString layerAsked = "Error: Invalid [Layers] node.";
     // clang-format off
-    QTest::newRow("refused late")         << "z_feature.xml"     << R"(<DCS><Device ModuleId="9"><Features/></Device></DCS>)" << QString() << QStringList{"Error: Invalid [HDR] node."};
-    QTest::newRow("silk, then no screen") << "z_silk_screen.xml" << "<DCS><Device><Keys/></Device></DCS>" << QString() << QStringList{"Error: Invalid [Screens] node."};
-    QTest::newRow("of no kind")           << "z.xml"             << "<DCS/>" << QString() << QStringList{};
+    row("each kind by a part of a name", {"xfeature.xml", "slots.xml", "a.silk.xml", "1screen1.xml", "ulayers.xml"},
+        "feature 1, slot 2, silk 3, screen 4, " + layerAsked);
+    row("names are case-sensitive",      {"Feature.xml", "SLOT.xml", "silK.xml", "Screen.xml", "LAYER.xml"}, "");
+    row("the extension is not",          {"slot.XML", "silk.txt", "screen.xml.bak"}, "slot 1");
+    row("sound is no feature",           {"feature.xml", "feature_sound.xml"}, "feature 1");
+    row("sound falls through",           {"feature_sound_slot.xml", "sound_silk.xml"}, "slot 1, silk 2");
+    row("a later file replaces",         {"B_feature.xml", "a_feature.xml", "b_slot.xml", "A_slot.xml"}, "feature 1, slot 3");
+    row("lists are joined by name",      {"silk_b.xml", "silk_A.xml", "screen2.xml", "screen1.xml"}, "silk 2, silk 1, screen 4, screen 3");
+    row("a feature is nothing else",     {"feature_slot_silk_screen.xml", "feature_layer.xml"}, "feature 1");
+    row("a slot file is nothing else",   {"screen_silk_slot.xml", "slot_layer.xml"}, "slot 2");
+    row("a silk file may be one, too",   {"screen_silk.xml", "silk_layer.xml"}, "silk 1, silk 2, screen 1, " + layerAsked);
+    row("a screen file may be a layer", {"layer_screen.xml"}, "screen 1, " + layerAsked);
     // clang-format on
+
+    const auto bad = [&row](const char* rule, const QString& kind, const QString& xml, const QString& error,
+                            const char* logged = "") {
+        row(QString("%1: %2").arg(rule, kind), {"feature.xml", "slot.xml", "silk.xml", "screen.xml", "zz_screen.xml"},
+            QString("feature 1, slot 2, silk 3, screen 4, screen 5") + logged,
+            {{"bad.xml", "<DCS>\n"}, {"z_" + kind + ".xml", xml}}, error);
+    };
+    // A bad file before this one left its text; only a file that is no XML puts its own in the place of it.
+    const QString stays = "Parse error at line 2, column 1:\nunexpected end of file";
+    for (const char* kind : {"feature", "slot", "silk", "screen", "layer", "nothing"}) {
+        bad("malformed", kind, "<DCS>", "Parse error at line 1, column 6:\nunexpected end of file");
+        bad("unreadable", kind, {}, "Fail to open file [%1]!");
+        bad("refused", kind, "<DCS/>", stays, qstrcmp(kind, "nothing") ? ", Error: Invalid [Device] node." : "");
+    }
+    const QString late = R"(<DCS><Device ModuleId="9"><Features/><Keys/></Device></DCS>)";
+    bad("not kept, however far it came", "feature", late, stays, ", Error: Invalid [HDR] node.");
+    bad("no layer without the screen", "silk_screen_layer", late, stays, ", Error: Invalid [Screens] node.");
 }
 
-void TestDeviceDirectory::aBadFileCostsItself()
+void TestDeviceDirectory::readsEachFileByItsName()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, xml);
+    QFETCH(Files, files);
     QFETCH(QString, error);
     const Folder folder;
-    for (const QString kind : {"feature", "slot", "silk", "screen"}) folder.write(kind + ".xml", anyKind(1));
-    folder.write("zz_screen.xml", anyKind(2));
-    if (xml.isNull())
-        QVERIFY(QDir(folder.path()).mkdir(name));
-    else
-        folder.write(name, xml);
+    for (auto file = files.cbegin(); file != files.cend(); ++file)
+        folder.write(file->isNull() ? file.key() + "/file" : file.key(), *file);
     const LogLines log;
     DeviceConfig config;
-    QString found;
+    QString found = "earlier";
     QVERIFY(config.readConfig(folder.path(), found));
+    QTEST(outcome(config.DeviceConfigs().first(), log), "expected");
     QCOMPARE(found, error.replace("%1", folder.path()));
-    QCOMPARE(origins(config.DeviceConfigs().first()), QString("feature 1, slot 1, silk 1, screen 1 2"));
-    QTEST(log.taken(), "logged");
 }
 
 void TestDeviceDirectory::makesTheDirectory()
@@ -131,14 +112,12 @@ void TestDeviceDirectory::makesTheDirectory()
     QVERIFY(config.DeviceConfigs().isEmpty());
 
     // A relative path too, and nothing is made but what it names.
-    const QString before = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(folder.path()));
-    QVERIFY(config.readConfig("new/device", error));
-    QVERIFY(config.readConfig("new/device", error));
-    QVERIFY(QDir::setCurrent(before));
-    QCOMPARE(QDir(folder.path("new")).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{"device"});
-    QVERIFY(QDir(folder.path("new/device")).isEmpty());
-    QCOMPARE(config.DeviceConfigs().size(), 2);
+    const QString made = folder.path("new/device");
+    for (const int devices : {1, 2}) {
+        QVERIFY(config.readConfig(QDir::current().relativeFilePath(made), error));
+        QVERIFY(QDir(made).exists() && QDir(made).isEmpty());
+        QCOMPARE(config.DeviceConfigs().size(), devices);
+    }
     QCOMPARE(config.DeviceConfigs().last().feature.name, std::string("system1"));
 }
 

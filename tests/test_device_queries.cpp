@@ -3,75 +3,30 @@
 #include "deviceconfig.h"
 #include "support.h"
 
-#include <array>
-#include <functional>
-
 using namespace LCD::MainConfig;
 using LCD::MainConfigImpl::DeviceConfig;
 
-/// A question to the catalogue, about a type where it is about one.
-using Ask = std::function<QString(const IDeviceConfig&, int type)>;
-Q_DECLARE_METATYPE(Ask)
-
 namespace {
 
-s_Device& addDevice(DeviceConfig& config)
+QList<s_Device>& devices(DeviceConfig& config) { return const_cast<QList<s_Device>&>(config.DeviceConfigs()); }
+
+/// The number in an answer that tells it from others.
+template <class Answer> QString show(const Answer& answer)
 {
-    auto& devices = const_cast<QList<s_Device>&>(config.DeviceConfigs());
-    devices.append(s_Device());
-    return devices.last();
+    // clang-format off
+    if constexpr (requires { answer.get(); }) return answer ? show(*answer) : "null";
+    else if constexpr (requires { answer.empty(); }) return answer.empty() ? "none" : show(answer.front());
+    else if constexpr (requires { answer.support; }) return QString::number(answer.support);
+    else if constexpr (requires { answer.info; }) return QString::number(answer.info.support);
+    else if constexpr (requires { answer.window; }) return show(answer.window);
+    else if constexpr (requires { answer.layerType; }) return QString::number(answer.layerType);
+    else if constexpr (requires { answer.order; }) return QString::number(answer.order);
+    else return QString::number(answer.value);
+    // clang-format on
 }
 
-/// A device with a number of its own in whatever a query can ask for, counted from `base`.
-void fill(s_Device& device, int base)
-{
-    s_DeviceFeature& feature = device.feature;
-    s_FuncFeatures& functions = feature.funcFeatures;
-    feature.moduleId = static_cast<std::uint64_t>(base);
-    feature.brand = "brand" + std::to_string(base);
-    feature.typeNameZhCN = "type" + std::to_string(base);
-    int number = base;
-    for (s_SupportInfo* info : std::initializer_list<s_SupportInfo*>{
-             &feature.preset, &feature.ptzs, &feature.cleanFeeds, &feature.tally, &feature.internalSource,
-             &functions.language, &feature.mosaicSource, &functions.quickToPology, &functions.record,
-             &functions.genlock, &functions.mediaPool, &functions.switchEffect.effect})
-        info->support = ++number;
-    functions.switchEffect.type.enums = {{base + 20}, {0}};
-    device.silkOrders = {{0, 0, base + 21}};
-    for (int twin : {0, 100}) {
-        s_DCSScreen screen;
-        screen.type = 1;
-        screen.limitNum = base + twin + 30;
-        screen.features.threeD.value = base + twin + 31;
-        screen.features.genlock.support = base + twin + 32;
-        screen.features.senderGenLock.internalFrameRate = base + twin + 33;
-        for (int modeTwin : {0, 50}) {
-            s_ScreenDeviceMode mode;
-            mode.value = 2;
-            mode.layerTypes.resize(1);
-            mode.layerTypes[0].layerType = base + twin + modeTwin + 34;
-            screen.deviceModes.push_back(mode);
-        }
-        device.screens.append(screen);
-        s_DCSLayer layer;
-        layer.type = 1;
-        layer.cutoutGeneral.info.support = base + twin + 40;
-        layer.window.width.max = base + twin + 41;
-        device.layers.append(layer);
-    }
-}
-
-template <class Record> QString support(const std::shared_ptr<Record>& record)
-{
-    return record ? QString::number(record->support) : "null";
-}
-
-/// The classes of card in the order in which they are searched.
-std::array<s_SlotAttr*, 8> classes(s_Slots& all)
-{
-    return {&all.mainControlCardSlots, &all.reservedCardSlots, &all.mixCardSlots, &all.inputCardSlots,
-            &all.outputCardSlots,      &all.mvrCardSlots,      &all.auxCardSlots, &all.expCardSlots};
-}
+/// The warnings of the queries that only search for the device's number, and of those that want the device.
+const QString NO_NUMBER = "could not find device's cfg.", NO_DEVICE = NO_NUMBER + "could not find device(0)'s cfg.";
 
 } // namespace
 
@@ -79,151 +34,129 @@ class TestDeviceQueries : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { qApp->setProperty("lcd_locale", {}); }
-    void answers_data();
-    void answers();
-    void speaksTheLanguageOfTheMoment();
-    void findsSlotsWithACard();
-    void findsTheFirstCardOfASlot();
-    void dantePort();
-    void relativePath();
+    void groups();
+    void identity();
+    void slotsAndTheirCards();
 };
 
-void TestDeviceQueries::answers_data()
+/// A number goes into the one field that a query is to answer from; every other field keeps its default. The first
+/// device answers, and the first one of two screens, modes or layers of one type.
+void TestDeviceQueries::groups()
 {
-    QTest::addColumn<Ask>("ask");
-    QTest::addColumn<QString>("withDevices");
-    QTest::addColumn<QString>("empty");
-    QTest::addColumn<QString>("noDevice");
-    QTest::addColumn<QString>("noType");
-    const auto row = [](const char* name, const Ask& ask, const char* with, const char* empty,
-                        const char* noDevice = nullptr, const char* noType = nullptr) {
-        QTest::newRow(name) << ask << with << empty << noDevice << noType;
+    DeviceConfig none, config;
+    devices(config) = {s_Device(), s_Device()};
+    s_Device& device = devices(config).first();
+    s_DeviceFeature& feature = device.feature;
+    feature.funcFeatures.switchEffect.type.enums.resize(2);
+    device.silkOrders.resize(2);
+    device.screens.resize(2);
+    device.layers.resize(2);
+    s_DCSScreen& screen = device.screens.first();
+    screen.deviceModes.resize(2);
+    auto& layerTypes = screen.deviceModes[0].layerTypes;
+    layerTypes.resize(1);
+    for (const int twin : {0, 1})
+        device.screens[twin].type = device.layers[twin].type = screen.deviceModes.at(std::size_t(twin)).value = 1;
+
+    const LogLines log;
+    // `ask` gets a type; `noType` is what an unknown one is warned of, null in a query without a type. The queries
+    // whose answer is not null without a device warn of no device either.
+    const auto row = [&](const QString& query, int& field, auto ask, QString noType = {}, const char* empty = "null") {
+        const auto asked = [&](auto& d, int type) { return QStringList{query, ask(d, type), log.taken().join("")}; };
+        const QString warning = noType.isEmpty() ? "" : "could not find " + noType + "'s cfg.";
+        field = 77;
+        QCOMPARE(asked(config, 1), (QStringList{query, "77", ""}));
+        QCOMPARE(asked(config, 7), (QStringList{query, noType.isNull() ? "77" : empty, warning}));
+        field = 0;
+        QCOMPARE(asked(none, 1), (QStringList{query, empty, qstrcmp(empty, "null") ? NO_NUMBER : NO_DEVICE}));
     };
-    using D = const IDeviceConfig&;
-    const char* const warn = "could not find device(0)'s cfg.";
-    const char* const screen = "could not find screen type(7)'s cfg.";
-    const char* const silent = "";
     // clang-format off
-    row("presetConfigs",             [](D d, int) { return support(d.presetConfigs()); },             "1001", "null", warn);
-    row("ptzsConfigs",               [](D d, int) { return support(d.ptzsConfigs()); },               "1002", "null", warn);
-    row("cleanFeedsConfigs",         [](D d, int) { return support(d.cleanFeedsConfigs()); },         "1003", "null", warn);
-    row("tallyConfigs",              [](D d, int) { return support(d.tallyConfigs()); },              "1004", "null", warn);
-    row("internalSourceConfigs",     [](D d, int) { return support(d.internalSourceConfigs()); },     "1005", "null", warn);
-    row("languageConfigs",           [](D d, int) { return support(d.languageConfigs()); },           "1006", "null", warn);
-    row("inputMOSAICConfigs",        [](D d, int) { return support(d.inputMOSAICConfigs()); },        "1007", "null", warn);
-    row("quickConfigurationConfigs", [](D d, int) { return support(d.quickConfigurationConfigs()); }, "1008", "null", warn);
-    row("recodeSettingConfigs",      [](D d, int) { return support(d.recodeSettingConfigs()); },      "1009", "null", warn);
-    row("genlockConfigs",            [](D d, int) { return support(d.genlockConfigs()); },            "1010", "null", warn);
-    row("mediaPoolCfg",              [](D d, int) { return support(d.mediaPoolCfg()); },              "1011", "null", warn);
-    row("effectConfigs",             [](D d, int) { return support(d.effectConfigs()); },             "1012", "null", warn);
-    row("findEffectTypes",           [](D d, int) { const auto r = d.findEffectTypes(); return r ? QString("%1 of %2").arg(r->at(0).value).arg(r->size()) : "null"; }, "1020 of 2", "null", warn);
-    row("silkConfigs",               [](D d, int) { const auto r = d.silkConfigs(); return r ? QString::number(r->at(0).order) : "null"; }, "1021", "null", warn);
-    row("getBrand",                  [](D d, int) { return d.getBrand(); },                           "brand1000", "", warn);
-    row("findDeviceTypeName",        [](D d, int) { return d.findDeviceTypeName(); },                 "type1000", "", warn);
-    row("findSubcardModelId",        [](D d, int) { return QString::number(d.findSubcardModelId(1)); }, "0", "0", warn);
-    row("isSupportDantePort",        [](D d, int) { return QString::number(d.isSupportDantePort()); }, "0", "0", warn);
-    row("getRelativePath",           [](D d, int) { return QString::fromStdString(d.getRelativePath(RelativePathType::Logs)); }, "", "", warn);
-    row("findDeviceModelId",         [](D d, int) { return QString::number(d.findDeviceModelId()); }, "1000", "0");
-    row("curDeviceConfigs",          [](D d, int) { return QString::number(d.curDeviceConfigs().feature.moduleId); }, "1000", "65535");
-    row("screenConfigs",             [](D d, int t) { const auto r = d.screenConfigs(t); return r ? QString::number(r->limitNum) : "null"; }, "1030", "null", warn, screen);
-    row("screenThreeDConfigs",       [](D d, int t) { const auto r = d.screenThreeDConfigs(t); return r ? QString::number(r->value) : "null"; }, "1031", "null", warn, screen);
-    row("genlockScreenConfigs",      [](D d, int t) { return support(d.genlockScreenConfigs(t)); },   "1032", "null", warn, screen);
-    row("layerConfigs",              [](D d, int t) { const auto r = d.layerConfigs(t); return r ? QString::number(r->window.width.max) : "null"; }, "1041", "null", warn, "could not find layer type(7)'s cfg.");
-    row("layerCutoutConfigs",        [](D d, int t) { const auto r = d.layerCutoutConfigs(t); return r ? QString::number(r->info.support) : "null"; }, "1040", "null", warn, "could not find layer type:(7)'s cfg.");
-    row("findFramerates",            [](D d, int t) { const auto r = d.findFramerates(t); return QString("%1 %2").arg(r.editable).arg(r.internalFrameRate); }, "-1 1033", "-1 0", nullptr, silent);
-    row("findLayerTypes: screen",    [](D d, int t) { const auto r = d.findLayerTypes(t, 2); return r.empty() ? "empty" : QString::number(r[0].layerType); }, "1034", "empty", nullptr, silent);
-    row("findLayerTypes: mode",      [](D d, int t) { const auto r = d.findLayerTypes(1, t + 1); return r.empty() ? "empty" : QString::number(r[0].layerType); }, "1034", "empty", nullptr, silent);
-    row("findLayerWindowDefaultRange", [](D d, int t) { const auto r = d.findLayerWindowDefaultRange(t); return QString("%1 %2").arg(r.info.editable).arg(r.width.max); }, "-1 1041", "-1 255", nullptr, silent);
+    row("preset",         feature.preset.support,                [](auto& d, int) { return show(d.presetConfigs()); });
+    row("ptzs",           feature.ptzs.support,                  [](auto& d, int) { return show(d.ptzsConfigs()); });
+    row("cleanFeeds",     feature.cleanFeeds.support,            [](auto& d, int) { return show(d.cleanFeedsConfigs()); });
+    row("tally",          feature.tally.support,                 [](auto& d, int) { return show(d.tallyConfigs()); });
+    row("internalSource", feature.internalSource.support,        [](auto& d, int) { return show(d.internalSourceConfigs()); });
+    row("mosaicSource",   feature.mosaicSource.support,          [](auto& d, int) { return show(d.inputMOSAICConfigs()); });
+    row("language",       feature.funcFeatures.language.support, [](auto& d, int) { return show(d.languageConfigs()); });
+    row("quickToPology", feature.funcFeatures.quickToPology.support, [](auto& d, int) { return show(d.quickConfigurationConfigs()); });
+    row("record",         feature.funcFeatures.record.support,   [](auto& d, int) { return show(d.recodeSettingConfigs()); });
+    row("genlock",        feature.funcFeatures.genlock.support,  [](auto& d, int) { return show(d.genlockConfigs()); });
+    row("mediaPool",      feature.funcFeatures.mediaPool.support, [](auto& d, int) { return show(d.mediaPoolCfg()); });
+    row("effect",         feature.funcFeatures.switchEffect.effect.support, [](auto& d, int) { return show(d.effectConfigs()); });
+    row("effect types", feature.funcFeatures.switchEffect.type.enums[0].value, [](auto& d, int) { return show(d.findEffectTypes()); });
+    row("silk orders",    device.silkOrders[0].order,            [](auto& d, int) { return show(d.silkConfigs()); });
+    row("screen",         screen.support,                  [](auto& d, int t) { return show(d.screenConfigs(t)); }, "screen type(7)");
+    row("screen genlock", screen.features.genlock.support, [](auto& d, int t) { return show(d.genlockScreenConfigs(t)); }, "screen type(7)");
+    row("threeD",         screen.features.threeD.value,    [](auto& d, int t) { return show(d.screenThreeDConfigs(t)); }, "screen type(7)");
+    row("layer",          device.layers[0].window.info.support, [](auto& d, int t) { return show(d.layerConfigs(t)); }, "layer type(7)");
+    row("cutout", device.layers[0].cutoutGeneral.info.support, [](auto& d, int t) { return show(d.layerCutoutConfigs(t)); }, "layer type:(7)");
+    row("window", device.layers[0].window.info.support, [](auto& d, int t) { return show(d.findLayerWindowDefaultRange(t)); }, "", "0");
+    row("rates",  screen.features.senderGenLock.support, [](auto& d, int t) { return show(d.findFramerates(t)); }, "", "0");
+    row("layers of a screen", layerTypes[0].layerType, [](auto& d, int t) { return show(d.findLayerTypes(t, 1)); }, "", "none");
+    row("layers of a mode",   layerTypes[0].layerType, [](auto& d, int t) { return show(d.findLayerTypes(1, t)); }, "", "none");
     // clang-format on
 }
 
-/// With two devices the first answers, and of two screens, modes or layers of one type the first, without a warning.
-void TestDeviceQueries::answers()
+void TestDeviceQueries::identity()
 {
-    QFETCH(Ask, ask);
-    QFETCH(QString, noDevice);
-    QFETCH(QString, noType);
+    DeviceConfig config;
     const LogLines log;
-    DeviceConfig config;
-    QTEST(ask(config, 1), "empty");
-    QCOMPARE(log.taken(),
-             QStringList("could not find device's cfg.") + QStringList(noDevice).filter(QRegularExpression(".")));
-    fill(addDevice(config), 1000);
-    fill(addDevice(config), 2000);
-    QTEST(ask(config, 1), "withDevices");
-    QCOMPARE(log.taken(), QStringList());
-    if (noType.isNull()) return;
-    QTEST(ask(config, 7), "empty");
-    QCOMPARE(log.taken().join('|'), noType);
-}
+    QCOMPARE(config.getBrand() + config.findDeviceTypeName() + config.getRelativePath({}).c_str(), QString());
+    QVERIFY(config.findSubcardModelId(1) == 0 && !config.isSupportDantePort());
+    QVERIFY(config.findDeviceModelId() == 0 && config.curDeviceConfigs().feature.moduleId == 0xFFFF);
+    QCOMPARE(log.taken().join(""), NO_DEVICE.repeated(5) + NO_NUMBER.repeated(2));
 
-void TestDeviceQueries::speaksTheLanguageOfTheMoment()
-{
-    DeviceConfig config;
-    addDevice(config).feature.typeNameEn = "Kingfisher";
-    for (const char* locale : {"EN", "zh_CN", "en"}) {
+    devices(config) = {s_Device(), s_Device()};
+    s_DeviceFeature& feature = devices(config).first().feature;
+    feature.moduleId = 1000;
+    QVERIFY(config.findDeviceModelId() == 1000 && config.curDeviceConfigs().feature.moduleId == 1000);
+    feature.brand = "brand ";
+    feature.typeNameEn = "Kingfisher";
+    feature.typeNameZhCN = "Cuiniao";
+    for (const auto& [locale, name] : {std::pair{"EN", "Cuiniao"}, {"zh_CN", "Cuiniao"}, {"en", "Kingfisher"}}) {
         qApp->setProperty("lcd_locale", locale);
-        QCOMPARE(config.findDeviceTypeName(), QString(qstrcmp(locale, "en") == 0 ? "Kingfisher" : ""));
+        QCOMPARE(config.getBrand() + config.findDeviceTypeName(), QString("brand ") + name);
     }
-}
-
-/// A slot that lists the card twice is found twice, and every device of the number answers.
-void TestDeviceQueries::findsSlotsWithACard()
-{
-    DeviceConfig config;
-    std::vector<s_Slot> found(1);
-    QVERIFY(!config.findSlotConnectors(0, 3, 5, found));
-    for (int id : {1, 2, 2}) {
-        s_Device& device = addDevice(config);
-        device.feature.moduleId = static_cast<std::uint64_t>(id);
-        for (s_SlotAttr* slotClass : classes(device.slots))
-            slotClass->slots = {{3, {{5, {}}, {6, {}}, {5, {}}}}, {4, {{5, {}}}}, {3, {{7, {}}}}};
-    }
-    for (const auto& [id, index, card, hits] : {std::tuple{2, 3, 5, 32}, {1, 3, 7, 8}, {1, 4, 7, 0}, {9, 3, 5, 0}}) {
-        found.resize(1);
-        QVERIFY(config.findSlotConnectors(id, index, card, found));
-        QCOMPARE(int(found.size()), 1 + hits);
-    }
-}
-
-void TestDeviceQueries::findsTheFirstCardOfASlot()
-{
-    DeviceConfig config;
-    std::uint64_t card = 80;
-    const auto all = classes(addDevice(config).slots);
-    for (auto slotClass = all.rbegin(); slotClass != all.rend(); ++slotClass) {
-        (*slotClass)->slots = {{3, {}}, {4, {{1, {}}}}, {3, {{++card, {}}, {2, {}}}}};
-        QCOMPARE(config.findSubcardModelId(3), card);
-    }
-    QCOMPARE(config.findSubcardModelId(9), std::uint64_t(0));
-}
-
-void TestDeviceQueries::dantePort()
-{
-    DeviceConfig config;
-    s_DeviceFeatureAudio& audio = addDevice(config).feature.audio;
     for (const auto& [own, dante, expected] : {std::tuple{1, 1, true}, {2, 1, false}, {1, 2, false}, {0, 1, false}}) {
-        audio.support = own;
-        audio.audioDante.support = dante;
+        feature.audio.support = own;
+        feature.audio.audioDante.support = dante;
         QCOMPARE(config.isSupportDantePort(), expected);
     }
+    s_TemplateResourceInfo& at = feature.templateResource;
+    for (int type = 0; s_Path * place : {&at.stream, &at.record, &at.project, &at.media, &at.camera, &at.logs}) {
+        place->relativePath = std::to_string(type);
+        QCOMPARE(config.getRelativePath(static_cast<RelativePathType>(type++)), place->relativePath);
+    }
+    QCOMPARE(config.getRelativePath(static_cast<RelativePathType>(-1)), std::string());
+    QCOMPARE(log.taken(), QStringList("-1 get RelativePath is empty"));
 }
 
-void TestDeviceQueries::relativePath()
+/// By number every device answers, and a slot that lists the card twice is found twice. Else the first card is taken,
+/// of the first slot that has one, in the order of the classes.
+void TestDeviceQueries::slotsAndTheirCards()
 {
     DeviceConfig config;
-    s_TemplateResourceInfo& places = addDevice(config).feature.templateResource;
-    const QList<s_Path*> inOrder{&places.stream, &places.record, &places.project,
-                                 &places.media,  &places.camera, &places.logs};
-    for (int type = 0; type < inOrder.size(); ++type) {
-        inOrder[type]->relativePath = "/place/" + std::to_string(type);
-        QCOMPARE(config.getRelativePath(static_cast<RelativePathType>(type)), inOrder[type]->relativePath);
+    std::vector<s_Slot> found;
+    QVERIFY(!config.findSlotConnectors(0, 3, 5, found));
+    devices(config) = {s_Device(), s_Device(), s_Device()};
+    devices(config)[0].feature.moduleId = 1;
+    const auto classes = {&s_Slots::mainControlCardSlots, &s_Slots::reservedCardSlots, &s_Slots::mixCardSlots,
+                          &s_Slots::inputCardSlots,       &s_Slots::outputCardSlots,   &s_Slots::mvrCardSlots,
+                          &s_Slots::auxCardSlots,         &s_Slots::expCardSlots};
+    std::uint64_t card = 80;
+    for (const auto slotClass : classes)
+        for (s_Device& device : devices(config))
+            (device.slots.*slotClass).slots = {{3, {}}, {4, {{5, {}}}}, {3, {{++card, {}}, {5, {}}, {5, {}}}}};
+    for (const auto& [id, at, model, n] : {std::tuple{0xFFFF, 3, 5, 32}, {1, 3, 81, 1}, {1, 4, 81, 0}, {9, 3, 5, 0}}) {
+        found.resize(1);
+        QVERIFY(config.findSlotConnectors(id, at, model, found));
+        QCOMPARE(int(found.size()), 1 + n);
     }
-    for (const int type : {6, -1}) {
-        QTest::ignoreMessage(QtWarningMsg, qPrintable(QString("%1 get RelativePath is empty").arg(type)));
-        QCOMPARE(config.getRelativePath(static_cast<RelativePathType>(type)), std::string());
+    for (const auto slotClass : classes) {
+        QCOMPARE(config.findSubcardModelId(3), (devices(config)[0].slots.*slotClass).slots[2].subcards[0].moduleId);
+        (devices(config)[0].slots.*slotClass).slots.clear();
     }
+    QCOMPARE(config.findSubcardModelId(3), std::uint64_t(0));
 }
 
 QTEST_GUILESS_MAIN(TestDeviceQueries)

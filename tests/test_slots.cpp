@@ -1,26 +1,39 @@
-// The slot file: its required elements, the differences between the classes of card, and its walks.
+// The slot file: its required elements, the differences between the classes of card, and its walks. And the lives of
+// the readers that are made on first use.
+#include "layerconfigmanager.h"
+#include "screenconfigmanager.h"
+#include "silkconfigmanager.h"
 #include "slotconfigmanager.h"
 #include "support.h"
 
+#include <QPointer>
+
 using namespace LCD::MainConfig;
-using LCD::MainConfigImpl::SlotConfigManager;
+using namespace LCD::MainConfigImpl;
 
 namespace {
 
-/// A slot file with one element under "Slots" beside the main control's.
-QString slotFile(const QString& extra, const QString& mainControl = QStringLiteral("<MainControlCardSlots/>"))
-{
-    return QStringLiteral("<DCS version=\"1.0\"><Device><Slots>%1%2</Slots></Device></DCS>").arg(mainControl, extra);
-}
-
-s_DCSSolt read(const QString& xml)
+/// The error text of a file with this element below the root; empty when the file is taken.
+QString read(const QString& body, s_DCSSolt& out)
 {
     const Folder folder;
-    s_DCSSolt out;
     QString error;
-    if (!SlotConfigManager::instance()->parseDeviceSlotcfg(folder.write("slot.xml", xml), error, out))
-        qFatal("%s", qPrintable(error));
-    return out;
+    const bool good = SlotConfigManager::instance()->parseDeviceSlotcfg(
+        folder.write("slot.xml", "<DCS version='1.0'>" + body + "</DCS>"), error, out);
+    return good == error.isEmpty() ? error : "a result that does not fit the text";
+}
+
+/// A class: its attributes, the indexes of its slots, the cards that it takes, and of its first slot the cards, with
+/// connector groups.
+QString shape(const s_SlotAttr& one)
+{
+    QString text = QString("%1 %2 %3:").arg(one.silkScreenName.c_str()).arg(one.pluginDirection).arg(one.interfaceType);
+    for (const s_Slot& slot : one.slots) text += QString(" #%1").arg(slot.index);
+    for (const s_SlotSubcard& card : one.subcards) text += QString(" %1").arg(card.moduleId);
+    for (const s_InlineSubcard& card : one.slots.at(0).subcards) text += QString(" #4:%1").arg(card.moduleId);
+    for (const s_SlotConnectorGroup& group : one.slots.at(0).subcards.at(0).connectorGroups)
+        text += QString(" =%1%2").arg(group.value).arg(group.groupName.c_str());
+    return text;
 }
 
 } // namespace
@@ -29,96 +42,66 @@ class TestSlots : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void refusesAFile_data();
-    void refusesAFile();
-    void readsEachClassInItsOwnWay_data();
+    void replacesTheRecordOrLeavesIt();
     void readsEachClassInItsOwnWay();
-    void readsOneClassWhole();
+    void readersAreMadeOnceAndAgain();
 };
 
-void TestSlots::refusesAFile_data()
+void TestSlots::replacesTheRecordOrLeavesIt()
 {
-    QTest::addColumn<QString>("xml");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("no Device") << "<DCS/>"
-                               << "Invalid [Device] node.";
-    QTest::newRow("no Slots") << "<DCS><Device/></DCS>"
-                              << "Invalid [Slots] node.";
-    QTest::newRow("no main control") << slotFile("<InputCardSlots/>", {}) << "Invalid [MainControlCardSlots] node.";
-}
-
-void TestSlots::refusesAFile()
-{
-    QFETCH(QString, xml);
-    const Folder folder;
     s_DCSSolt out;
-    out.expCardSlots.pluginDirection = 7;
-    QString error;
-    QVERIFY(!SlotConfigManager::instance()->parseDeviceSlotcfg(folder.write("slot.xml", xml), error, out));
-    QTEST(error, "message");
-    QCOMPARE(out.expCardSlots.pluginDirection, 7);
+    out.reservedCardSlots.slots.resize(7);
+    QCOMPARE(read("", out), QString("Invalid [Device] node."));
+    QCOMPARE(read("<Device/>", out), QString("Invalid [Slots] node."));
+    QCOMPARE(read("<Device><Slots/></Device>", out), QString("Invalid [MainControlCardSlots] node."));
+    QCOMPARE(int(out.reservedCardSlots.slots.size()), 7);
+    QCOMPARE(read("<Device><Slots><MainControlCardSlots/></Slots></Device>", out), QString());
+    QVERIFY(out.reservedCardSlots.slots.empty());
 }
 
-void TestSlots::readsEachClassInItsOwnWay_data()
-{
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<int>("slotsKept");
-    QTest::addColumn<quint64>("bigClassModule");
-    QTest::addColumn<quint64>("bigSlotModule");
-    QTest::addColumn<int>("groups");
-    const quint64 big = 18446744073709551615ULL;
-    QTest::newRow("main control: all 64 bits") << "MainControlCardSlots" << 2 << big << big << 0;
-    QTest::newRow("input: no slot without an index") << "InputCardSlots" << 1 << quint64(0) << big << 0;
-    QTest::newRow("output") << "OutputCardSlots" << 2 << quint64(0) << big << 0;
-    QTest::newRow("mix: signed, with groups") << "MixCardSlots" << 2 << quint64(0) << quint64(0) << 3;
-    QTest::newRow("multi-view") << "MVRCardSlots" << 2 << quint64(0) << big << 0;
-    QTest::newRow("auxiliary") << "AUXCardSlots" << 2 << quint64(0) << big << 0;
-    QTest::newRow("expansion") << "EXPCardSlots" << 2 << quint64(0) << big << 0;
-}
-
+/// Whatever follows the first "Slot" is walked as one more slot, so "Subcards" too, and the same holds for the other
+/// lists; what stands before the first one of its tag is passed over.
 void TestSlots::readsEachClassInItsOwnWay()
 {
-    QFETCH(QString, tag);
-    const QString body = QStringLiteral(R"(<%1><Slot Index="4"><Subcards><Subcard ModuleId="18446744073709551615">
-        <ConnectorGroups><ConnectorGroup Value="1" GroupName="A"/><Other Value="2"/></ConnectorGroups>
-        <More><ConnectorGroup Value="3" GroupName="C"/></More></Subcard></Subcards></Slot><Slot/>
-        <Subcards><Subcard ModuleId="18446744073709551615"/><Subcard ModuleId="-1"/></Subcards></%1>)")
-                             .arg(tag);
-    const bool isMain = tag == "MainControlCardSlots";
-    const s_DCSSolt all = isMain ? read(slotFile({}, body)) : read(slotFile(body));
-    const QMap<QString, s_SlotAttr> classes{{"MainControlCardSlots", all.mainControlCardSlots},
-                                            {"InputCardSlots", all.inputCardSlots},
-                                            {"OutputCardSlots", all.outputCardSlots},
-                                            {"MixCardSlots", all.mixCardSlots},
-                                            {"MVRCardSlots", all.mvrCardSlots},
-                                            {"AUXCardSlots", all.auxCardSlots},
-                                            {"EXPCardSlots", all.expCardSlots}};
-    const s_SlotAttr attr = classes[tag];
-    // "Subcards" follows the last "Slot", and so is walked as one more slot; it has no index.
-    QFETCH(int, slotsKept);
-    QCOMPARE(int(attr.slots.size()), tag == "InputCardSlots" ? slotsKept : slotsKept + 1);
-    QCOMPARE(attr.slots[0].index, 4);
-    QCOMPARE(int(attr.slots[0].subcards.size()), 1);
-    QTEST(quint64(attr.slots[0].subcards[0].moduleId), "bigSlotModule");
-    QTEST(int(attr.slots[0].subcards[0].connectorGroups.size()), "groups");
-    QTEST(quint64(attr.subcards[0].moduleId), "bigClassModule");
-    QCOMPARE(quint64(attr.subcards[1].moduleId), isMain ? quint64(0) : 18446744073709551615ULL);
+    const QString xml = R"(<%1CardSlots SilkScreenName="%1" PluginDirection="2" InterfaceType="3"><Note/>
+        <Slot Index="4"><Subcards><Note/><Subcard ModuleId="4294967296">
+        <ConnectorGroups><Note/><ConnectorGroup Value="1" GroupName="A"/><Other Value="2"/></ConnectorGroups>
+        <More><ConnectorGroup Value="3"/></More></Subcard><Any ModuleId="-2"/></Subcards></Slot><Slot Index="4"/><Slot/>
+        <Subcards><Note/><Subcard ModuleId="2147483648"/><Any ModuleId="-1"/></Subcards></%1CardSlots>)";
+    // Slots: without an index they are 0, and left out of the inputs. The cards of the class: an int with its sign, and
+    // 64 bits for the main control. Those of a slot: 64 bits, with a sign and connector groups for the mixed slots.
+    // clang-format off
+    const std::tuple<const char*, s_SlotAttr s_Slots::*, const char*> classes[] = {
+        {"MainControl", &s_Slots::mainControlCardSlots, "#4 #4 #0 #0 2147483648 0 #4:4294967296 #4:0"},
+        {"Input",       &s_Slots::inputCardSlots, "#4 #4 0 18446744073709551615 #4:4294967296 #4:0"},
+        {"Output",      &s_Slots::outputCardSlots,      "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"},
+        {"Mix",         &s_Slots::mixCardSlots,  "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:18446744073709551614 =1A =2 =3"},
+        {"MVR",         &s_Slots::mvrCardSlots,  "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"},
+        {"AUX",         &s_Slots::auxCardSlots,  "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"},
+        {"EXP",         &s_Slots::expCardSlots,  "#4 #4 #0 #0 0 18446744073709551615 #4:4294967296 #4:0"}};
+    // clang-format on
+    QString body;
+    for (const auto& row : classes) body += xml.arg(std::get<0>(row));
+    s_DCSSolt all;
+    QCOMPARE(read("<Device><Slots>" + body + "</Slots></Device>", all), QString());
+    for (const auto& [name, member, expected] : classes)
+        QCOMPARE(shape(all.*member), QString("%1 2 3: %2").arg(name, expected));
 }
 
-void TestSlots::readsOneClassWhole()
+void TestSlots::readersAreMadeOnceAndAgain()
 {
-    const s_DCSSolt all = read(slotFile(R"(<AUXCardSlots SilkScreenName="AUX" PluginDirection="2" InterfaceType="x">
-        <Note/><Slot Index="9"/><Slot Index="9"><Subcards><Subcard ModuleId="5"/><Any ModuleId="6"/></Subcards></Slot>
-        </AUXCardSlots>)"));
-    const s_SlotAttr& aux = all.auxCardSlots;
-    QCOMPARE(aux.silkScreenName, std::string("AUX"));
-    QCOMPARE(aux.pluginDirection, 2);
-    QCOMPARE(aux.interfaceType, 0);
-    QCOMPARE(int(aux.slots.size()), 2);
-    QVERIFY(aux.slots[0].subcards.empty());
-    QCOMPARE(quint64(aux.slots[1].subcards[1].moduleId), quint64(6));
-    QVERIFY(aux.subcards.empty());
-    QVERIFY(all.reservedCardSlots.slots.empty());
+    const auto live = [](auto instance, auto destroyInstance) {
+        const QPointer<QObject> object(instance());
+        QVERIFY(object && instance() == object.data());
+        destroyInstance();
+        QVERIFY(object.isNull());
+    };
+    for (int life = 1; life <= 2; ++life) {
+        live(&SlotConfigManager::instance, &SlotConfigManager::destroyInstance);
+        live(&SilkConfigManager::instance, &SilkConfigManager::destroyInstance);
+        live(&ScreenConfigManager::instance, &ScreenConfigManager::destroyInstance);
+        live(&LayerConfigManager::instance, &LayerConfigManager::destroyInstance);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestSlots)
