@@ -162,9 +162,9 @@ void TestHost::namesTheFileOfEachProblem_data()
     const QString noDevice = "connectors: device is empty";
     const QString unfinished = "Parse error at line 1, column 6: unexpected end of file";
     QTest::newRow("two catalogues")
-        << "load ROOT" << Files{{"devices/halcyon16/slot.xml", "<DCS>"}, {"keycheck/keyboardchecklist.xml", "<DCS/>"}}
+        << "load ROOT" << Files{{"devices/halcyon16/slot.xml", "<DCS>"}, {"lockarea/lockareaconfig.xml", "<DCS/>"}}
         << QStringList{"devices/halcyon16/slot.xml: " + unfinished, noDevice,
-                       "keycheck/keyboardchecklist.xml: This file is not a valid configuration file."};
+                       "lockarea/lockareaconfig.xml: This file is not a valid configuration file."};
     QTest::newRow("a loader that stops at the first bad file")
         << "cards ROOT" << Files{{"subcards/201.xml", "<LCD/>"}, {"subcards/inputs/202.xml", "<DCS>"}}
         << QStringList{"subcards/201.xml: The file is not a valid configuration file for device.",
