@@ -4,14 +4,28 @@
 #include "lcdbench_report.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QRegularExpression>
 
 #include <benchmark/benchmark.h>
+
+#include <cstdio>
+
+/// In KiB, since the program was started: what a parent had before that does not count.
+static long peakMemoryOfThisProcess()
+{
+    QFile status("/proc/self/status");
+    if (!status.open(QIODevice::ReadOnly)) return 0;
+    const QString text = status.readAll();
+    return QRegularExpression("VmHWM:\\s*(\\d+)").match(text).captured(1).toLong();
+}
 
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
     if (argc == 4 && QString(argv[1]) == "--memory") {
         lcdbench::useMemory(argv[2], QString(argv[3]).toInt());
+        std::printf("%ld\n", peakMemoryOfThisProcess());
         return 0;
     }
     std::vector<char*> arguments{argv[0]};

@@ -3,12 +3,9 @@
 #include "lcdbench_config.h"
 
 #include <QCoreApplication>
+#include <QProcess>
 
 #include <benchmark/benchmark.h>
-
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <map>
@@ -93,17 +90,12 @@ void runAndReport()
 
 long peakMemory(const QString& what, int size)
 {
-    const std::string program = QCoreApplication::applicationFilePath().toStdString();
-    const std::string number = std::to_string(size);
-    const pid_t child = fork();
-    if (child == 0) {
-        execl(program.c_str(), program.c_str(), "--memory", what.toStdString().c_str(), number.c_str(), nullptr);
-        _exit(127);
-    }
-    int status = 0;
-    rusage usage{};
-    if (wait4(child, &status, 0, &usage) != child || status != 0) qFatal("the memory measurement failed");
-    return usage.ru_maxrss;
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), {"--memory", what, QString::number(size)});
+    bool good = child.waitForFinished(-1) && child.exitCode() == 0;
+    const long peak = good ? child.readAllStandardOutput().trimmed().toLong(&good) : 0;
+    if (!good) qFatal("the memory measurement failed");
+    return peak;
 }
 
 } // namespace lcdbench

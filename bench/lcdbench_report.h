@@ -13,7 +13,7 @@ void registerQueries();
 /// Runs all registered benchmarks and prints the tables.
 void runAndReport();
 
-/// The peak memory in KiB of a process of its own that does one thing: "load" or "parse", at one size.
+/// The peak memory in KiB of a process of its own that does one thing: "files" (only writes them), "load" or "parse".
 long peakMemory(const QString& what, int size);
 
 /// What such a process does.

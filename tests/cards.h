@@ -17,6 +17,7 @@ struct CardFixture {
                                       "<Subcard ModuleId=\"%2\"/></Subcards></Slot></%1>")
                            .arg(tag, model);
         const Folder device;
+        // A slot file without this class fails; where the models name it too, theirs is the one read.
         device.write("slot.xml", "<DCS><Device><Slots>" + classes + "<MainControlCardSlots/></Slots></Device></DCS>");
         if (!devices.readConfig(device.path(), error)) qFatal("no device");
     }

@@ -1,148 +1,120 @@
-// The connector files: which are read, what an absence costs, and which attribute fills which field.
+// The connector catalogue: which files are read, what an absence costs, which attribute fills which field, and what the
+// queries make of it.
+#include "cards.h"
 #include "connectorconfig_impl.h"
-#include "standincards.h"
-#include "standinhost.h"
-#include "support.h"
 
 #include <QDomDocument>
-#include <QRegularExpression>
-
-#include <numeric>
 
 using namespace LCD::MainConfig;
 using LCD::MainConfigImpl::ConnectorConfig;
+using Sizes = std::vector<s_resolutionResolutionRatio>;
 
 namespace {
 
-/// The example of a connector with everything, its numbers replaced by running ones from 1001 on.
-class ConnectorFile {
-public:
+/// The example of a connector with everything, its numbers replaced by running ones from 1001 on. The example must keep
+/// its elements and attributes in the order of the records' fields.
+struct ConnectorFile {
     ConnectorFile()
     {
         QFile example(EXAMPLES_PATH "/halcyon/connectors/1.xml");
         if (!example.open(QIODevice::ReadOnly)) qFatal("no example");
         QString text = QString::fromUtf8(example.readAll());
-        static const QRegularExpression number("(?<!version)=\"[-.0-9]+\"");
-        for (auto hit = number.match(text); hit.hasMatch(); hit = number.match(text, hit.capturedStart() + 1))
-            text.replace(hit.capturedStart(), hit.capturedLength(), QStringLiteral("=\"%1\"").arg(++_last));
-        _document.setContent(text);
-    }
-    [[nodiscard]] QString text() const { return _document.toString(); }
-    /// The numbers of the file in its order.
-    [[nodiscard]] QVector<double> numbers() const
-    {
-        QVector<double> all(_last - 1000);
-        std::iota(all.begin(), all.end(), 1001.0);
-        return all;
+        const QRegularExpression number("(?<!version)=\"[-.0-9]+\"");
+        for (auto hit = number.match(text); hit.hasMatch(); hit = number.match(text, hit.capturedStart() + 1)) {
+            numbers.append(1001 + numbers.size());
+            text.replace(hit.capturedStart(), hit.capturedLength(), QStringLiteral("=\"%1\"").arg(numbers.last()));
+        }
+        document.setContent(text);
     }
     /// The connector itself, or an element below it.
-    [[nodiscard]] QDomElement at(const QString& path) const
+    QDomElement at(const QString& path) const
     {
-        QDomElement element = _document.documentElement().firstChildElement().firstChildElement();
+        QDomElement element = document.documentElement().firstChildElement().firstChildElement();
         for (const QString& tag : path.split('/', Qt::SkipEmptyParts)) element = element.firstChildElement(tag);
-        if (element.isNull()) qFatal("no %s in the example", qPrintable(path));
         return element;
     }
-    void duplicate(const QString& path) { at(path).parentNode().insertAfter(at(path).cloneNode(), at(path)); }
-    void remove(const QString& path) { at(path).parentNode().removeChild(at(path)); }
 
-    /// Sets every attribute that the element, or one below it, doesn't have and that is read elsewhere to -7.
-    static void fill(QDomElement element)
-    {
-        for (const char* name : {"Support", "Editable", "Value", "DataType", "Min", "Max", "Step", "Coefficient",
-                                 "Type", "SupportType", "RangeType", "Interlaced"})
-            if (!element.hasAttribute(name)) element.setAttribute(name, -7);
-        for (auto child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) fill(child);
-    }
-
-private:
-    QDomDocument _document;
-    int _last = 1000;
+    QDomDocument document;
+    QVector<double> numbers;
 };
 
-/// What a load made of some files.
-struct Load {
-    explicit Load(const QMap<QString, QString>& files, std::initializer_list<int> types = {0, 1, 5, 6}) : cards(types)
+/// Sets every attribute that the element, or one below it, doesn't have and that is read elsewhere to -7.
+void fill(QDomElement element)
+{
+    for (const char* name : {"Support", "Editable", "Value", "DataType", "Min", "Max", "Step", "Coefficient", "Type",
+                             "SupportType", "RangeType", "Interlaced"})
+        if (!element.hasAttribute(name)) element.setAttribute(name, -7);
+    for (auto child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) fill(child);
+}
+
+/// The numbers that a file gave to a record, which lie beyond all defaults, in the order of its fields. The fields of
+/// all records stand here in one order that agrees with each of them; one that is left out makes a number of the file
+/// miss.
+// clang-format off
+template <class Record> QVector<double> numbersOf(const Record& r)
+{
+#define F(name) if constexpr (requires { r.name; }) all += numbersOf(r.name);
+    QVector<double> all;
+    if constexpr (std::is_arithmetic_v<Record>) { if (r > 1000 || r < -1) all.append(double(r)); }
+    if constexpr (requires { r.begin(); }) for (const auto& entry : r) all += numbersOf(entry);
+    if constexpr (requires { r.type + 0; }) all += numbersOf(r.type);
+    F(support) F(editable) F(attrMode) F(value) F(dataType) F(min) F(max) F(step) F(enums) F(r) F(g) F(b) F(hpd) F(select) F(loopType)
+    if constexpr (requires { r.type.enums; }) all += numbersOf(r.type);
+    F(name) F(nameGB2312) F(signalType) F(capacityMode) F(interfaces) F(capacityModes) F(hdcp) F(player) F(hpds) F(general) F(presetTiming)
+    F(presetTimings) F(colorDepths) F(colorSpaces) F(colorRanges) F(dynamicRange) F(hdr) F(formatMapping) F(imageQuality) F(crop)
+    F(timingSelect) F(edid) F(interlaced) F(interlacedValues) F(bandWidth) F(resolutionRatios) F(resolutions) F(defaultResolution)
+    F(advResolutionRatio) F(disables) F(width) F(height) F(refreshRate) F(refresh) F(rangeType) F(coefficient) F(refreshValues)
+    F(horizontal) F(vertical) F(addTime) F(frontPorch) F(sync) F(totalTime) F(syncPolarity) F(syncPolarityValues) F(enable) F(hdcpType)
+    F(colorDepth) F(colorSpace) F(colorRange) F(playFileType) F(autoPlayEnable) F(picturePlayTime) F(effectTime) F(effectType) F(filePath)
+    F(diskType) F(contrast) F(brightness) F(hue) F(saturation) F(gamma) F(xRatio) F(yRatio) F(widthRatio) F(heightRatio) F(maxCount)
+#undef F
+    return all;
+}
+// clang-format on
+
+/// What a load makes of some files, with a card that has plain connectors of some types, or without any card.
+struct Load : CardFixture {
+    explicit Load(const QMap<QString, QString>& files, const QStringList& types = {"0", "1", "5", "6"})
     {
-        for (auto file = files.begin(); file != files.end(); ++file) folder.write(file.key(), file.value());
-        read(folder.path());
+        // Type 7 stands everywhere but in the plain list.
+        const QString card = R"(<DCS><Subcards><Card><Name><zh_CN/><en/></Name><Connectors><Connector Type="%1"/>
+            <DeviceMode><Capacitys><Capacity><Connector Type="7"/></Capacity></Capacitys></DeviceMode><Types><Type Type="7"/></Types>
+            </Connectors><ConnectorGroups><Capacity><ConnectorGroup><Connector Type="7"/></ConnectorGroup></Capacity></ConnectorGroups>
+            <CapacityGroups/><Sections/></Card></Subcards></DCS>)";
+        addDevice({{"InputCardSlots", "1"}});
+        if (!types.isEmpty()) folder.write("cards/1.xml", card.arg(types.join("\"/><Connector Type=\"")));
+        if (!load()) qFatal("no cards");
+        for (auto file = files.begin(); file != files.end(); ++file) folder.write("types/" + file.key(), file.value());
+        read(folder.path("types"));
     }
     void read(const QString& path)
     {
         StandInHost host;
-        host.serve<ISubcardConfig>("lcdSubcardConfig", cards);
-        const LogLines lines;
+        host.serve<ISubcardConfig>("lcdSubcardConfig", catalogue);
         error = "untouched";
-        good = catalogue.readConfig(path, error);
-        log = lines.taken();
+        good = connectors.readConfig(path, error);
     }
 
-    Folder folder;
-    standin::Cards cards;
-    ConnectorConfig::Impl catalogue;
+    ConnectorConfig::Impl connectors;
     bool good = false;
-    QString error;
-    QStringList log;
 };
 
-/// The numbers of a record in the order of its fields, with the defaults that no file changes left out.
-class Numbers {
-public:
-    QVector<double> all;
-
-    // clang-format off
-    template <class... Fields> void add(const Fields&... fields) { (one(fields), ...); }
-
-private:
-    template <class Number> requires std::is_arithmetic_v<Number> void one(Number number) { if (number > 1000 || number < -1) all.append(double(number)); }
-    template <class Entry> void one(const std::vector<Entry>& list) { for (const Entry& entry : list) one(entry); }
-    template <class Record> requires requires(Record r) { r.interfaces; } void one(const Record& r) { add(flags(r), r.interfaces); }
-    static const s_SupportInfo& flags(const s_SupportInfo& r) { return r; }
-    static const s_BaseAttr& setting(const s_BaseAttr& r)     { return r; }
-    void one(const s_SupportInfo& r)                { add(r.support, r.editable, r.attrMode); }
-    void one(const s_BaseAttr& r)                   { add(flags(r), r.value, r.dataType); }
-    void one(const s_RangeValue& r)                 { add(setting(r), r.min, r.max, r.step, r.coefficient); }
-    void one(const ConnectorEnumValue& r)           { add(r.value); }
-    void one(const s_ConnectorValueList& r)         { add(setting(r), r.enums); }
-    void one(const s_BandWidth& r)                  { add(flags(r), r.min, r.max); }
-    void one(const s_ResolutionRatio& r)            { add(flags(r), r.width, r.height, r.refreshRate, r.coefficient); }
-    void one(const s_ConnectorHorizontal& r)        { add(flags(r), r.addTime, r.frontPorch, r.sync, r.totalTime); }
-    void one(const s_ResolutionRatios::s_AdvResolutionRatio& r) { add(flags(r), r.refresh, r.horizontal, r.vertical); }
-    void one(const s_resolutionResolutionRatio& r)  { add(r.width, r.height, r.coefficient, r.interlaced); }
-    void one(const s_ResolutionRatios& r)           { add(flags(r), r.defaultResolution, r.advResolutionRatio, r.disables); }
-    void one(const s_CapacityModeInInterface& r)    { add(flags(r), r.value, r.bandWidth, r.resolutionRatios); }
-    void one(const s_Interface& r)                  { add(r.type, r.capacityModes); }
-    void one(const s_InterfaceInHDCP& r)            { add(r.type, r.enable, r.hdcpType); }
-    void one(const s_InterfaceInColorDepth& r)      { add(r.type, r.colorDepth); }
-    void one(const s_InterfaceInColorSpace& r)      { add(r.type, r.colorSpace); }
-    void one(const s_InterfaceInColorRange& r)      { add(r.type, r.colorRange); }
-    void one(const s_ConnectorPlayer& r)            { add(flags(r), r.loopType, r.playFileType, r.autoPlayEnable, r.picturePlayTime, r.effectTime, r.effectType, r.filePath, r.diskType); }
-    void one(const s_HPD& r)                        { add(flags(r), r.value, r.min, r.max, r.step); }
-    void one(const s_ConnectorHPDs::s_HPDsInterface& r) { add(r.type, flags(r), r.hpd); }
-    void one(const s_ConnectorGeneral& r)           { add(flags(r), r.type, r.name, r.nameGB2312); }
-    void one(const s_PresetHorizontal::s_TimingItem& r) { add(setting(r), r.min, r.max); }
-    void one(const s_PresetHorizontal& r)           { add(flags(r), r.addTime, r.frontPorch, r.sync, r.totalTime, r.syncPolarity, r.syncPolarityValues); }
-    void one(const s_PreSetTimingInterface::s_PresetBandWidth& r) { add(flags(r), r.min, r.max, r.dataType); }
-    void one(const s_PreSetTimingInterface& r)      { add(r.type, r.interlaced, r.interlacedValues, r.bandWidth, r.refresh, r.coefficient, r.refreshValues, r.horizontal, r.vertical); }
-    void one(const s_InterfaceInImageQuality::s_RGB& r) { add(flags(r), r.r, r.g, r.b); }
-    void one(const s_InterfaceInImageQuality& r)    { add(r.type, r.contrast, r.brightness, r.hue, r.saturation, r.gamma); }
-    void one(const s_ConnectorCrop::s_Ratio& r)     { add(setting(r), r.rangeType, r.coefficient); }
-    void one(const s_ConnectorCrop::s_MaxCount& r)  { add(setting(r), r.rangeType); }
-    void one(const s_ConnectorCrop& r)              { add(flags(r), r.enable, r.xRatio, r.yRatio, r.widthRatio, r.heightRatio, r.maxCount); }
-    void one(const s_ConnectorTimingSelect& r)      { add(flags(r), r.select); }
-    void one(const s_ConnectorCfg& r)
-    {
-        add(r.type, r.signalType, r.capacityMode, r.interfaces, r.hdcp, r.player, r.hpds, r.general, r.presetTiming, r.presetTimings);
-        add(r.colorDepths, r.colorSpaces, r.colorRanges, r.dynamicRange, r.hdr, r.formatMapping, r.imageQuality, r.crop, r.timingSelect, r.edid);
-    }
-    // clang-format on
-};
-
-QVector<double> numbersOf(const s_ConnectorCfg& connector)
+/// A connector with one interface that knows these modes, each with what it disables there.
+s_ConnectorCfg connector(int type, int interfaceType, const std::vector<std::pair<int, Sizes>>& modes)
 {
-    Numbers numbers;
-    numbers.add(connector);
-    return numbers.all;
+    s_ConnectorCfg made;
+    made.type = type;
+    made.interfaces = {{interfaceType, {}}};
+    for (const auto& [value, disables] : modes)
+        made.interfaces[0].capacityModes.push_back({{}, value, {}, {{}, {}, {}, disables}});
+    return made;
+}
+
+QString listed(const Sizes& sizes)
+{
+    QStringList all;
+    for (const auto& size : sizes) all.append(QStringLiteral("%1x%2").arg(size.width).arg(size.height));
+    return all.join(' ');
 }
 
 } // namespace
@@ -156,63 +128,68 @@ private Q_SLOTS:
     void chargesAnAbsence();
     void readsAFileOrNot_data();
     void readsAFileOrNot();
-    void needsADirectoryAndCards();
-    void appendsConnectorsAndReplacesResolutions();
-    void readsOneRange();
+    void loadsADirectory();
+    void offersResolutions_data();
+    void offersResolutions();
+    void looksBeyondTheFirstConnector();
+    void answersFromTheExample();
 };
 
 void TestConnectors::fillsEachFieldFromItsAttribute()
 {
     const ConnectorFile file;
-    ConnectorFile::fill(file.at(""));
-    const Load load({{"5.xml", file.text()}});
-    QCOMPARE(load.error + load.log.join("; "), QString("untouched"));
-    const s_ConnectorCfg connector = load.catalogue.connectors.at(0).configs.at(0);
-    QCOMPARE(numbersOf(connector), file.numbers());
-    QCOMPARE(connector.icon + connector.name.zhCN + connector.name.en,
-             std::string("hdmi20.pngHDMI 2.0接口HDMI 2.0 Connector"));
-    QCOMPARE(connector.shortName.zhCN + connector.shortName.en, std::string("HDMI2.0HDMI 2.0"));
-    const s_RangeValue& gamma = connector.imageQuality.interfaces.at(0).gamma;
-    QCOMPARE(gamma.coefficient, gamma.max + 1.0);
-    QCOMPARE(connector.player.autoPlayEnableSecond.value, connector.player.autoPlayEnable.value);
+    const ConnectorConfig::Impl reader;
+    const QDomElement quality = file.at("ImageQuality/Interface");
+    QString error;
+    s_ConnectorCfg read;
+    fill(file.at(""));
+    QVERIFY(reader.readConfigConnector(file.at(""), error, read));
+    QCOMPARE(numbersOf(read), file.numbers);
+    QCOMPARE(read.icon + read.name.zhCN + read.name.en + read.shortName.zhCN + read.shortName.en,
+             std::string("hdmi20.pngHDMI 2.0接口HDMI 2.0 ConnectorHDMI2.0HDMI 2.0"));
+    QCOMPARE(numbersOf(read.player.autoPlayEnableSecond), numbersOf(read.player.autoPlayEnable));
+
+    // A setting alone: neither step nor coefficient.
+    for (const auto readOne : {&ConnectorConfig::Impl::getAttribute, &ConnectorConfig::Impl::getRGB}) {
+        s_RangeValue range;
+        QVERIFY(!(reader.*readOne)(range, quality, QLatin1String("Alpha"), error));
+        QCOMPARE(error + QString::number(range.max), QString("Invalid [Alpha] node.255"));
+        QVERIFY((reader.*readOne)(range, quality, QLatin1String("Gamma"), error));
+        QCOMPARE(numbersOf(range), numbersOf(read.imageQuality.interfaces.at(0).gamma).mid(0, 6));
+    }
+    // The coefficient of Gamma goes through single precision, and is 0 when absent.
+    quality.firstChildElement("Gamma").setAttribute("Coefficient", "0.01");
+    quality.nextSiblingElement().firstChildElement("Gamma").removeAttribute("Coefficient");
+    QVERIFY(reader.readConfigConnector(file.at(""), error, read = {}));
+    QCOMPARE(read.imageQuality.interfaces.at(0).gamma.coefficient, double(0.01F));
+    QCOMPARE(read.imageQuality.interfaces.at(1).gamma.coefficient, 0.0);
 }
 
 void TestConnectors::chargesAnAbsence_data()
 {
     QTest::addColumn<QString>("cost");
     QTest::addColumn<bool>("logged");
-    const auto rows = [](const char* cost, bool logged, const QStringList& parents, const char* tags) {
-        for (const QString& parent : parents)
-            for (const QString& tag : QString(tags).split(' '))
-                QTest::newRow(qPrintable(parent + tag)) << QString(cost) << logged;
+    const auto rows = [](const char* cost, bool logged, const QString& parent, const char* tags) {
+        for (const QString& tag : QString(tags).split(' ')) QTest::newRow(qPrintable(parent + tag)) << cost << logged;
     };
-    const QString mode = "CapacityMode/Interface/CapacityMode/";
-    const QString ratios = mode + "ResolutionRatios/";
-    const QString custom = ratios + "AdvResolutionRatio/";
-    const QString timing = "PresetTiming/Interface/";
-    const QString quality = "ImageQuality/Interface/";
+    const QString ratios = "CapacityMode/Interface/CapacityMode/ResolutionRatios", adv = ratios + "/AdvResolutionRatio";
     // clang-format off
-    rows("connector", false, {""},                                           "Name Name/zh_CN Name/en ShortName ShortName/zh_CN ShortName/en SignalType CapacityMode");
-    rows("connector", false, {mode},                                         "BandWidth ResolutionRatios");
-    rows("connector", false, {ratios},                                       "ResolutionRatio AdvResolutionRatio");
-    rows("connector", false, {ratios + "ResolutionRatio/"},                  "Width Height RefreshRate");
-    rows("connector", false, {custom},                                       "Refresh Horizontal Vertical");
-    rows("connector", false, {custom + "Horizontal/", custom + "Vertical/"}, "AddTime FrontPorch Sync TotalTime");
-    rows("connector", true,  {""},                                           "HDCP General PresetTiming ColorDepths ColorSpaces ColorRanges FormatMapping DynamicRange");
-    rows("connector", true,  {"General/"},                                   "Type Name NameGB2312");
-    rows("connector", false, {""},                                           "ImageQuality Crop TimingSelect TimingSelect/Select EDID");
-    rows("connector", false, {"Crop/"},                                      "Enable XRatio YRatio WidthRatio HeightRatio MaxCount");
-    rows("entry",     true,  {"HDCP/Interface/"},                            "Enable Type");
-    rows("entry",     true,  {timing},                                       "Interlaced BandWidth Refresh Horizontal Vertical");
-    rows("entry",     true,  {timing + "Horizontal/", timing + "Vertical/"}, "AddTime FrontPorch Sync SyncPolarity TotalTime");
-    rows("entry",     true,  {""},                                           "ColorDepths/Interface/ColorDepth ColorSpaces/Interface/ColorSpace ColorRanges/Interface/ColorRange");
-    rows("entry",     false, {quality},                                      "Contrast Brightness Hue Saturation Gamma");
-    rows("entry",     false, {quality + "Contrast/", quality + "Brightness/"}, "R G B");
-    rows("player",    true,  {""},                                           "Player");
-    rows("player",    true,  {"Player/"},                                    "LoopType PlayFileType AutoPlayEnable PicturePlayTime EffectTime EffectType FilePath DiskType");
-    rows("hot plug",  true,  {""},                                           "HPDs");
-    rows("nothing",   false, {"HPDs/Interface/"},                            "HPD");
-    rows("nothing",   false, {ratios},                                       "Disables");
+    rows("connector", false, "", "Name Name/zh_CN Name/en ShortName ShortName/zh_CN ShortName/en SignalType CapacityMode");
+    rows("connector", false, "", "ImageQuality Crop TimingSelect TimingSelect/Select EDID CapacityMode/Interface/CapacityMode/BandWidth");
+    rows("connector", false, ratios, " /ResolutionRatio /ResolutionRatio/Width /ResolutionRatio/Height /ResolutionRatio/RefreshRate");
+    rows("connector", false, adv, " /Refresh /Horizontal /Vertical");
+    rows("connector", false, adv + "/Horizontal", "/AddTime /FrontPorch /Sync /TotalTime");
+    rows("connector", false, "Crop", "/Enable /XRatio /YRatio /WidthRatio /HeightRatio /MaxCount");
+    rows("connector", true, "", "HDCP PresetTiming ColorDepths ColorSpaces ColorRanges FormatMapping DynamicRange");
+    rows("connector", true, "General", " /Type /Name /NameGB2312");
+    rows("entry", true, "HDCP/Interface", "/Enable /Type");
+    rows("entry", true, "PresetTiming/Interface", "/Interlaced /BandWidth /Refresh /Horizontal /Vertical");
+    rows("entry", true, "PresetTiming/Interface/Vertical", "/AddTime /FrontPorch /Sync /SyncPolarity /TotalTime");
+    rows("entry", true, "Color", "Depths/Interface/ColorDepth Spaces/Interface/ColorSpace Ranges/Interface/ColorRange");
+    rows("entry", false, "ImageQuality/Interface", "/Contrast /Brightness /Hue /Saturation /Gamma /Contrast/R /Contrast/G /Contrast/B");
+    rows("Player", true, "Player", " /LoopType /PlayFileType /AutoPlayEnable /PicturePlayTime /EffectTime /EffectType /FilePath /DiskType");
+    rows("HPDs", true, "HPDs", "");
+    rows("nothing", false, "", "HPDs/Interface/HPD CapacityMode/Interface/CapacityMode/ResolutionRatios/Disables");
     // clang-format on
 }
 
@@ -221,51 +198,45 @@ void TestConnectors::chargesAnAbsence()
     QFETCH(QString, cost);
     QFETCH(bool, logged);
     const QString path = QTest::currentDataTag();
-    ConnectorFile file;
-    file.duplicate("");
-    if (cost == "entry") file.duplicate(path.section('/', 0, 1));
-    file.remove(path);
-    const Load load({{"5.xml", file.text()}});
-
-    const QString message = QStringLiteral("Invalid [%1] node.").arg(path.section('/', -1));
-    QVERIFY(load.good);
-    QCOMPARE(load.error, cost == "nothing" ? "untouched" : message);
-    QCOMPARE(load.log, logged ? QStringList("Log: " + message) : QStringList());
-    std::vector<s_ConnectorCfg> configs = load.catalogue.connectors.at(0).configs;
-    QCOMPARE(int(configs.size()), cost == "connector" ? 1 : 2);
-    s_ConnectorCfg& neighbour = configs.back();
-    QCOMPARE(numbersOf(neighbour), file.numbers());
-    // What the first connector lost; in all the rest it equals its neighbour.
-    if (cost == "player") neighbour.player = {};
-    if (cost == "hot plug") neighbour.hpds = {};
-    if (path.endsWith("HPD")) neighbour.hpds.interfaces[0].hpd = {};
-    if (path.endsWith("Disables")) neighbour.interfaces[0].capacityModes[0].resolutionRatios.disables.clear();
-    QCOMPARE(numbersOf(configs.front()), numbersOf(neighbour));
+    const ConnectorFile file;
+    const QDomElement missing = file.at(path), entry = file.at(path.section('/', 0, 1));
+    // A dropped entry has a twin that stays.
+    if (cost == "entry") entry.parentNode().insertAfter(entry.cloneNode(), entry);
+    missing.parentNode().removeChild(missing);
+    const QString message = QStringLiteral("Invalid [%1] node.").arg(missing.tagName());
+    QString error = "untouched";
+    s_ConnectorCfg read;
+    const LogLines lines;
+    QCOMPARE(ConnectorConfig::Impl().readConfigConnector(file.at(""), error, read), cost != "connector");
+    QCOMPARE(error, cost == "nothing" ? "untouched" : message);
+    QCOMPARE(lines.taken(), logged ? QStringList("Log: " + message) : QStringList());
+    // The numbers that stay are those of the file without the missing element and without what its absence costs.
+    file.at(cost).parentNode().removeChild(file.at(cost));
+    const QString text = file.document.toString();
+    QVector<double> left;
+    for (const double number : file.numbers)
+        if (text.contains(QString::number(number))) left.append(number);
+    if (cost != "connector") QCOMPARE(numbersOf(read), left);
 }
 
 void TestConnectors::readsAFileOrNot_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("message");
     QTest::addColumn<int>("files");
-    const auto row = [](const char* rule, const char* name, const char* text, const char* message, int files) {
-        QTest::newRow(rule) << QString(name) << QString(text) << QString(message) << files;
-    };
-    const char* const empty = "<DCS><Connectors/></DCS>";
+    QTest::addColumn<QString>("message");
+    const char *const empty = "<DCS><Connectors/></DCS>", *const good = "untouched";
     // clang-format off
-    row("used type",                    "5.xml",               empty,                                         "untouched", 3);
-    row("type of no plain connector",   "7.xml",               "<",                                           "untouched", 2);
-    row("no number counts as type 0",   "abc.xml",             empty,                                         "untouched", 3);
-    row("number up to the first dot",   "5.old.xml",           empty,                                         "untouched", 3);
-    row("tag counts, not the name",     "resolutionratio.xml", empty,                                         "untouched", 3);
-    row("another tag",                  "5.xml",               "<DCS><Devices/><Connectors/></DCS>",          "untouched", 2);
-    row("first element only",           "5.xml",               "<DCS><!-- --><Connectors/><Connectors/></DCS>", "untouched", 3);
-    row("empty root",                   "5.xml",               "<DCS version=\"1.0\"/>",                      "untouched", 2);
-    row("version",                      "5.xml",               "<DCS version=\"1.00\"/>",                     "The file is not a valid configuration file of version 1.0 for device.", 1);
-    row("root",                         "5.xml",               "<LCD><Connectors/></LCD>",                    "The file is not a valid configuration file for device.", 1);
-    row("not well-formed",              "5.xml",               "<DCS></LCD>",                                 "Parse error at line 1, column 11:\ntag mismatch", 1);
-    row("a folder",                     "5.xml/inside",        "",                                            "Fail to open file [%1/5.xml]!", 1);
+    QTest::newRow("used type")                  << "5.xml"               << empty                                           << 3 << good;
+    QTest::newRow("type of no plain connector") << "7.xml"               << "<"                                             << 2 << good;
+    QTest::newRow("no number counts as type 0") << "abc.xml"             << empty                                           << 3 << good;
+    QTest::newRow("number up to the first dot") << "5.old.xml"           << empty                                           << 3 << good;
+    QTest::newRow("tag counts, not the name")   << "resolutionratio.xml" << empty                                           << 3 << good;
+    QTest::newRow("another tag")                << "5.xml"               << "<DCS><Devices/><Connectors/></DCS>"            << 2 << good;
+    QTest::newRow("first element only")         << "5.xml"               << "<DCS><!-- --><Connectors/><Connectors/></DCS>" << 3 << good;
+    QTest::newRow("empty root")                 << "5.xml"               << "<DCS version=\"1.0\"/>"                        << 2 << good;
+    QTest::newRow("another root")    << "5.xml"        << "<LCD/>" << 1 << "The file is not a valid configuration file for device.";
+    QTest::newRow("can't be opened") << "5.xml/inside" << ""       << 1 << "Fail to open file [%1]!";
     // clang-format on
 }
 
@@ -274,64 +245,134 @@ void TestConnectors::readsAFileOrNot()
     QFETCH(QString, name);
     QFETCH(QString, text);
     QFETCH(QString, message);
-    const Load load({{"1.xml", ConnectorFile().text()}, {name, text}, {"6.xml", ConnectorFile().text()}});
+    const Load load({{"1.xml", "<DCS><Connectors/></DCS>"}, {name, text}, {"6.xml", "<DCS><Connectors/></DCS>"}});
     // What was read before a bad file stays; what comes after it is not read.
-    QTEST(int(load.catalogue.connectors.size()), "files");
+    QTEST(int(load.connectors.connectors.size()), "files");
     QCOMPARE(load.good, message == "untouched");
-    QCOMPARE(load.error, message.replace("%1", load.folder.path()));
-    QCOMPARE(load.log, QStringList());
+    QCOMPARE(load.error, message.replace("%1", load.folder.path("types/5.xml")));
 }
 
-void TestConnectors::needsADirectoryAndCards()
+void TestConnectors::loadsADirectory()
 {
-    Load load({{"plain", ""}, {"abc.xml", "<"}}, {5});
-    QVERIFY(load.good);
-    load.read(load.folder.path("plain/below"));
-    QVERIFY(!load.good);
-    QCOMPARE(load.error, "Invalid file path!\n" + load.folder.path("plain/below"));
+    QTest::ignoreMessage(QtWarningMsg, "device is empty");
     const Load cardless({}, {});
-    QVERIFY(!cardless.good);
-    QCOMPARE(cardless.error + cardless.log.join(' '), QString("untoucheddevice is empty"));
-}
+    QVERIFY(!cardless.good && cardless.error == "untouched");
 
-void TestConnectors::appendsConnectorsAndReplacesResolutions()
-{
-    Load load({{"5.xml", ConnectorFile().text()},
-               {"6.xml", R"(<DCS><ResolutionRatios><Old Value="9"/></ResolutionRatios></DCS>)"},
-               {"ResolutionRatio.xml", "<"},
-               {"resolutionratio.xml", R"(<DCS><ResolutionRatios><Mode Value="1"><Size Width="1920" Height="1080"
-                    Interlaced="1" Coefficient="-7"/><Any Width="x"/></Mode><Other/></ResolutionRatios></DCS>)"}},
-              {5, 6});
-    QVERIFY2(load.good, qPrintable(load.error));
-    auto& modes = load.catalogue.resolutions.capacityModes;
-    QCOMPARE(int(modes.size()), 2);
-    QCOMPARE(modes[0].value, 1);
-    const auto& sizes = modes[0].resolutions;
-    QCOMPARE(int(sizes.size()), 2);
-    const QVector<int> read{sizes[0].width, sizes[0].height, sizes[0].interlaced, sizes[1].width, sizes[1].interlaced};
-    QCOMPARE(read, (QVector<int>{1920, 1080, 1, 0, 0}));
-    QCOMPARE(sizes[0].coefficient, 0.01F);
+    Load load({{"5.xml", ConnectorFile().document.toString().replace("<Connectors>", "<Connectors><Nameless/>")},
+               {"6.xml", R"(<DCS><ResolutionRatios><Mode Value="1001"><Size Interlaced="1002" Width="1003" Height="1004"
+                    Coefficient="-7"/><Any/></Mode><Other/></ResolutionRatios></DCS>)"},
+               {"ResolutionRatio.xml", "<"}},
+              {"5", "6"});
+    QVERIFY(load.good && load.connectors.connectors.at(0).configs.size() == 1);
+    QCOMPARE(load.error, QString("Invalid [Name] node."));
+    auto& modes = load.connectors.resolutions.capacityModes;
+    QCOMPARE(numbersOf(modes), (QVector<double>{1001, 1002, 1003, 1004}));
+    QVERIFY(modes.size() == 2 && modes[0].resolutions.size() == 2 && modes[0].resolutions[1].interlaced == 0);
+    QVERIFY(!load.connectors.readConfigResolution({}, load.connectors.resolutions) && modes.size() == 2);
 
-    QVERIFY(!load.catalogue.readConfigResolution({}, load.catalogue.resolutions));
-    QCOMPARE(int(modes.size()), 2);
-    load.folder.write("resolutionratio.xml", "<DCS><ResolutionRatios/></DCS>");
-    load.read(load.folder.path());
-    QCOMPARE(int(load.catalogue.connectors.size()), 2);
-    QVERIFY(load.good && modes.empty());
-}
-
-void TestConnectors::readsOneRange()
-{
-    const QDomElement parent = ConnectorFile().at("ImageQuality/Interface");
-    for (const auto read : {&ConnectorConfig::Impl::getAttribute, &ConnectorConfig::Impl::getRGB}) {
-        QString error;
-        s_RangeValue range;
-        QVERIFY(!(ConnectorConfig::Impl().*read)(range, parent, QLatin1String("Alpha"), error));
-        QCOMPARE(error + QString::number(range.max), QString("Invalid [Alpha] node.255"));
-        QVERIFY((ConnectorConfig::Impl().*read)(range, parent, QLatin1String("Gamma"), error));
-        QCOMPARE(range.max, range.support + 5);
-        QCOMPARE(range.coefficient, 1.0);
+    for (const QString& path : {QString(), load.folder.path("types/5.xml/below"), load.folder.path("made/of/need")}) {
+        load.read(path);
+        QCOMPARE(load.error, path.endsWith("need") ? "untouched" : "Invalid file path!\n" + path);
+        QCOMPARE(load.good, path.endsWith("need") && QDir(path).exists());
     }
+    // A second load appends connectors and replaces resolutions.
+    load.folder.write("types/resolutionratio.xml", "<DCS><ResolutionRatios/></DCS>");
+    load.read(load.folder.path("types"));
+    QVERIFY(load.good && load.connectors.connectors.size() == 2 && modes.empty());
+}
+
+void TestConnectors::offersResolutions_data()
+{
+    QTest::addColumn<QString>("medium");
+    QTest::addColumn<QVector<int>>("query");
+    QTest::addColumn<QString>("offered");
+    const QString small = "800x600 1920x1080 1920x1080", upTo1 = "1920x1080 1920x1080 2560x1440 3840x2160";
+    const QString upTo2 = upTo1 + " 3840x2160 4096x2160", all = small + " 2560x1440 4096x2160";
+    // clang-format off
+    QTest::newRow("a higher mode disables nothing")          << "there"   << QVector<int>{0, 1, 1}  << small;
+    QTest::newRow("a mode disables in the lower ones")       << "there"   << QVector<int>{1, 1, 2}  << upTo1;
+    QTest::newRow("a mode above 2 is 2, duplicates stay")    << "there"   << QVector<int>{9, 1, 5}  << upTo2;
+    QTest::newRow("negative mode")                           << "there"   << QVector<int>{-1, 1, 1} << "";
+    QTest::newRow("the mask misses")                         << "there"   << QVector<int>{2, 1, 4}  << "";
+    QTest::newRow("a mode that the connector doesn't know")  << "there"   << QVector<int>{2, 2, 2}  << "3840x2160";
+    QTest::newRow("disabled by both numbers in any mode")    << "there"   << QVector<int>{2, 3, 1}  << all;
+    QTest::newRow("an empty list takes its disables along")  << "empty"   << QVector<int>{1, 1, 1}  << small;
+    QTest::newRow("a missing list takes its disables along") << "missing" << QVector<int>{1, 1, 1}  << small;
+    // clang-format on
+}
+
+void TestConnectors::offersResolutions()
+{
+    QFETCH(QString, medium);
+    QFETCH(QVector<int>, query);
+    ConnectorConfig::Impl known;
+    known.resolutions.capacityModes = {
+        {0, {{800, 600}, {1024, 768}, {1920, 1080}, {1920, 1080, 0, 0}}},
+        {medium == "missing" ? 9 : 1, medium == "empty" ? Sizes() : Sizes{{2560, 1440}, {3840, 2160}}},
+        {2, {{3840, 2160}, {4096, 2160}}}};
+    known.connectors = {{{connector(1, 3, {{0, {{1024, 768}}}, {1, {{800, 600, 9, 9}}}, {2, {}}})}},
+                        {{connector(2, 2, {{1, {{2560, 1440}}}})}},
+                        {{connector(3, 1, {{0, {}}, {1, {}}, {2, {{3840, 2160}, {1024, 768}, {800, 768}}}})}}};
+    if (medium == "missing") QTest::ignoreMessage(QtWarningMsg, "not find capacityMode: 1");
+    QTEST(listed(known.findConnectorResolutions(query[0], query[1], query[2])), "offered");
+}
+
+void TestConnectors::looksBeyondTheFirstConnector()
+{
+    s_ConnectorCfg first = connector(1, 2, {{0, {{1, 1}}}}), second = connector(1, 2, {{0, {}}, {1, {{2, 2}}}});
+    s_ConnectorCfg masked = connector(2, 6, {{0, {}}});
+    second.interfaces.insert(second.interfaces.begin(), {6, {}});
+    first.capacityMode.support = 2;
+    second.capacityMode.support = masked.capacityMode.support = first.edid.support = 1;
+    first.hpds.interfaces = {{{}, 3, {{}, 1}}};
+    second.hpds.interfaces = {{{}, 1, {{}, 1}}, {{}, 2, {{}, 2}}};
+    first.presetTimings = {{1, {}, {}, {}, {}, 1.0F, {10}, {}, {}}};
+    second.presetTimings = {{6, {}, {}, {}, {}, 2.0F, {20}, {}, {}}};
+    ConnectorConfig::Impl known;
+    known.connectors = {{{first}}, {}, {{second, masked}}};
+
+    QVERIFY(known.copyOf(1, &s_ConnectorCfg::edid)->support == 1 && known.hpd(1)->value == 2 && !known.hpd(2));
+    // The interface type is a number here, and a mask for the others.
+    QVERIFY(known.outputCapacityModes(1)->size() == 2 && !known.outputCapacityModes(2));
+    QCOMPARE(listed(known.resolutionRatios(0, 1, 2)->disables), QString("1x1"));
+    QCOMPARE(listed(known.resolutionRatios(1, 1, 2)->disables), QString("2x2"));
+    QVERIFY(known.presetTiming(1, 3)->type == 1 && known.presetTiming(1, 2)->type == 6 && !known.presetTiming(1, 0));
+    // A mode hands out its disables even when its standard list is missing, but not when the connector lacks it.
+    Sizes disables{{3, 3}};
+    known.findConnectorStandardResolution(2, 1, 2, disables);
+    QCOMPARE(listed(disables), QString("3x3"));
+    QTest::ignoreMessage(QtWarningMsg, "not find capacityMode: 1");
+    known.findConnectorStandardResolution(1, 1, 2, disables);
+    QCOMPARE(listed(disables), QString("2x2"));
+}
+
+void TestConnectors::answersFromTheExample()
+{
+    CardFixture stack;
+    QVERIFY(stack.devices.readConfig(EXAMPLES_PATH "/halcyon/devices/halcyon16", stack.error));
+    QVERIFY(stack.load(EXAMPLES_PATH "/halcyon/subcards"));
+    StandInHost host;
+    host.serve<ISubcardConfig>("lcdSubcardConfig", stack.catalogue);
+    ConnectorConfig known;
+    const LogLines lines;
+    QVERIFY(known.readConfig(EXAMPLES_PATH "/halcyon/connectors", stack.error));
+    QCOMPARE(stack.error + lines.taken().join(' '), QString());
+    // Every connector file knows the modes in which the cards run its connectors.
+    const auto cards = stack.catalogue.subcardConfig();
+    for (const s_Subcard& card : cards->subcards)
+        for (const s_SubcardConnector& used : card.connectors.connectors)
+            QVERIFY(known.findConnectorDefaultResolution(used.capacityMode, used.type, used.interfaceType));
+
+    QCOMPARE(known.findConnectorTypeName(2) + known.findConnectorTypeName(10), std::string("HDMI 1.4接口"));
+    QVERIFY(!known.findHPDInfo(3) && !known.findEDIDInfo(10) && !known.findConnectorDefaultResolution(2, 6, 1));
+    QVERIFY(known.findHPDInfo(2)->value == 500 && known.findHDRInfo(1)->editable == -1);
+    QCOMPARE(known.findResoluCapacityMode(7)->at(1).bandWidth.max, std::int64_t(340000));
+    QCOMPARE(listed(known.findConnectorResolutionRatios(1, 7, 2)->disables), QString("4096x2160"));
+    QCOMPARE(listed(known.findConnectorResolutions(1, 6, 1)).section(' ', -1), QString("2560x1600"));
+    const s_PresetRefresh rates = known.findConnectorRates(7, 2);
+    QVERIFY(rates.refresh.value == 6000 && rates.coefficient == 0.01F && rates.refreshValues.size() == 10);
+    QCOMPARE(known.findConnectorTiming(8, 8).bandWidth.max, 148500);
+    QVERIFY(known.findConnectorRates(8, 7).refresh.editable == -1 && known.findConnectorTiming(8, 7).type == 0);
 }
 
 QTEST_GUILESS_MAIN(TestConnectors)

@@ -1,4 +1,5 @@
 // What must not be lost: by eight threads on one store, by a kill amid writes, by a storage that takes nothing more.
+#include "settings/settingsstore.h"
 #include "settings_support.h"
 
 #include <csignal>
@@ -103,6 +104,27 @@ private Q_SLOTS:
             QCOMPARE(copy->getFnSettingTargetValue(thread), 60);
         }
         QCOMPARE(int(copy->getSourceCustomSort().size()), 8);
+    }
+
+    /// Clearing takes no lock, and so may make QSettings forget that a value is still to be written.
+    void closesWithWhatWasSetLast()
+    {
+        const Folder folder;
+        const QString path = folder.write("lcdsetting.ini", "");
+        for (int round = 1; round <= 1000; ++round) {
+            auto store = std::make_unique<LCD::MainConfigImpl::SettingsStore>();
+            store->open(path);
+            std::atomic<bool> clearing = true;
+            std::thread other([&] {
+                while (clearing) store->changeUnlocked([](LCD::MainConfigImpl::IniFile& file) { file.write(); });
+            });
+            for (int n = 0; n < 4; ++n)
+                store->change([&](QSettings& file) { file.setValue("Section/entry", round + n); });
+            clearing = false;
+            other.join();
+            store.reset();
+            QCOMPARE(QSettings(path, QSettings::IniFormat).value("Section/entry").toInt(), round + 3);
+        }
     }
 
     void answersWithoutALock()

@@ -44,6 +44,14 @@ struct s_EnumField : s_BaseAttr {
     std::vector<EnumValue> enums; ///< Allowed values in file order, duplicates kept.
 };
 
+/// A text with its limits.
+struct s_TextValue : s_SupportInfo {
+    std::string value; ///< UTF-8; a number is kept as its text.
+    int dataType = 0;  ///< How the panel shows the value; never interpreted here.
+    int min = 0;
+    int max = 255;
+};
+
 /// One allowed value with a text.
 struct s_EnumStringValue {
     int value = 0;

@@ -1,6 +1,6 @@
 // Everything that one device model can do, as one record: its feature file. The subtrees are declared in the headers
 // included here. Unless told otherwise a member comes from the attribute or child element of its name. A subtree that
-// is absent or incomplete in the file leaves its member at the defaults given here.
+// is absent or incomplete in the file leaves its member at the defaults given here, unless told otherwise.
 #ifndef LCDMAINCONFIG_FEATURE_H
 #define LCDMAINCONFIG_FEATURE_H
 

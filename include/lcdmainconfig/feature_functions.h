@@ -10,14 +10,6 @@
 
 namespace LCD::MainConfig {
 
-/// A text with its limits.
-struct s_TextValue : s_SupportInfo {
-    std::string value; ///< UTF-8; a number is kept as its text.
-    int dataType = 0;  ///< How the panel shows the value; never interpreted here.
-    int min = 0;
-    int max = 255;
-};
-
 /// The panel languages. Feature file, element Features/Language.
 struct s_Language : s_EnumField {};
 

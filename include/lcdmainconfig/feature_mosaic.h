@@ -55,10 +55,11 @@ struct s_SubSourceType {
     std::vector<s_MosaicTemplate> mosaicTemplates;
 };
 
-/// Feature file, element MosaicSource. A `style` of -1 tells that the element or its child MosaicTemplates is absent.
+/// Feature file, element MosaicSource. `style` is -1 when the element or its child
+/// MosaicTemplates is absent.
 struct s_MOSAICSource : s_SupportInfo {
     struct s_CapacityCalculate : s_SupportInfo {
-        int value = -1; ///< -1: the element is absent.
+        int value = -1; ///< -1 when the element is absent.
         std::vector<s_MOCSIACapacity> capacities;
     };
 

@@ -23,8 +23,9 @@ struct s_MediaPool : s_SupportInfo {
         std::vector<EnumValue> enums; ///< Always empty, whatever the file lists: this is meant.
     };
 
-    s_MediaList audio;
-    s_MediaList picSet; ///< An element PicSet leaves it at its defaults: this is meant.
+    s_MediaList audio; ///< Absent from a Media that is there, it counts as supported and not editable.
+    /// Support 1 and editable 0 when the element PicSet is absent; the defaults when it is there: this is meant.
+    s_MediaList picSet;
 };
 
 /// The network port. Feature file, element NetWorks/NetWork; the first one counts.

@@ -22,9 +22,10 @@ public:
     virtual ~IConnectorConfig() = default;
 
     /// Loads the resolution file of `path` and the files of the connector types that the cards use; the cards must have
-    /// been read before. Returns false when the load had to stop; what was read before that stays. `error` holds the
-    /// last problem met and may be set although the result is true. A second call appends connectors and replaces the
-    /// standard resolutions.
+    /// been read before. A missing directory is created. Returns false when the load had to stop; what was read before
+    /// that stays. `error` holds the last problem met and may be set although the result is true; without any card the
+    /// result is false with `error` untouched, and only a log line tells why. A second call appends connectors and
+    /// replaces the standard resolutions.
     virtual bool readConfig(const QString& path, QString& error) = 0;
 
     /// Copy protection. First connector of the type only; null when there is none.

@@ -16,6 +16,8 @@ public:
     /// Reads every "*.xml" of the directory, which is created if missing. A file that cannot be opened or parsed is
     /// passed over, and leaves its reason in `error` though the result is true. False for an empty path, a directory
     /// that cannot be made, and a well-formed file of the wrong shape; the lists keep what earlier files gave.
+    /// A file fills the list that its name tells. The match minds the case; keys of a file that fits no list are
+    /// dropped. A second load appends to the lists.
     virtual bool readConfig(const QString& dir, QString& error) = 0;
 
     /// From files named "...keyboardchecklist..."; attributes "Value" and "Name", in file order. Empty if none.

@@ -45,14 +45,14 @@ public:
     /// is left alone. No store: a warning, nothing written.
     virtual void setCurrentPgmEditDefaultStatus() = 0;
 
-    /// How many function keys setALLFnSettingValue writes; 6 at first. Kept in memory only, and takes no lock, which is
-    /// meant.
+    /// How many function buttons setALLFnSettingValue writes; 6 at first. Kept in memory only, and takes no lock, which
+    /// is meant.
     virtual void setFnBtnMaxCount(int count) = 0;
     /// Writes FnSetting/FnValue<index>, at once.
     virtual void setFnSettingValue(int index, int value) = 0;
-    /// Writes FnSetting/FnValue<index> for every function key from 0, each with a flush of its own.
+    /// Writes FnSetting/FnValue<index> for every function button from 0, each with a flush of its own.
     virtual void setALLFnSettingValue(int value) = 0;
-    /// FnSetting/FnValue<index>: the binding of a function key. No store: 0.
+    /// FnSetting/FnValue<index>: the binding of a function button. No store: 0.
     virtual int getFnSettingValue(int index) const = 0;
 
     /// Writes UserModeSetting/UserModeValue.

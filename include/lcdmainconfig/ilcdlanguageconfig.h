@@ -49,22 +49,22 @@ public:
 
     /// Writes FnSetting/FnValue<index>, at once.
     virtual void setFnSettingValue(int index, int value) = 0;
-    /// Writes FnSetting/FnValue<index> for every function key from 0, each with a flush of its own.
+    /// Writes FnSetting/FnValue<index> for every function button from 0, each with a flush of its own.
     virtual void setALLFnSettingValue(int value) = 0;
-    /// FnSetting/FnValue<index>: the user's binding of a function key. No store: 0.
+    /// FnSetting/FnValue<index>: the user's binding of a function button. No store: 0.
     virtual int getFnSettingValue(int index) const = 0;
-    /// Whether FnSetting/FnValue<index> is there, that is, whether the user ever bound that key. No store: false.
+    /// Whether FnSetting/FnValue<index> is there, that is, whether the user ever bound that button. No store: false.
     virtual bool hasFnSettingValue(int index) const = 0;
     /// Writes FnSetting/FnTarget<index>, at once.
     virtual void setFnSettingTargetValue(int index, int target) = 0;
-    /// FnSetting/FnTarget<index>: what a function key acts on. No store: 0.
+    /// FnSetting/FnTarget<index>: what a function button acts on. No store: 0.
     virtual int getFnSettingTargetValue(int index) const = 0;
     /// Writes FnSetting/FnTargetType<index>, at once.
     virtual void setFnSettingTargetTypeValue(int index, int targetType) = 0;
     /// FnSetting/FnTargetType<index>: the kind of that target. No store: 0.
     virtual int getFnSettingTargetTypeValue(int index) const = 0;
-    /// How many function keys setALLFnSettingValue writes; 6 at first. Kept in memory only, and takes no lock, which is
-    /// meant.
+    /// How many function buttons setALLFnSettingValue writes; 6 at first. Kept in memory only, and takes no lock, which
+    /// is meant.
     virtual void setFnBtnMaxCount(int count) = 0;
 
     /// Writes ReturnToHomeSetting/ReturnToHomeValue.

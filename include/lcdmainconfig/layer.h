@@ -5,7 +5,6 @@
 #define LCDMAINCONFIG_LAYER_H
 
 #include "lcdmainconfig/common.h"
-#include "lcdmainconfig/feature_functions.h"
 #include "lcdmainconfig/layer_cutout.h"
 
 #include <array>
@@ -23,7 +22,7 @@ struct s_RangeValue64 : s_BaseAttr {
 /// Naming of a layer: element "General".
 struct s_LayerGeneral {
     s_SupportInfo info;
-    s_TextValue name; ///< Element "General/Name": `value` is the default name, `min` and `max` bound its length.
+    s_TextValue name; ///< Element "General/Name"; in the file an absent "Value" is the text "0", an absent "Max" 0.
 };
 
 /// Cropping of a layer's source: element "Source/Crop".
@@ -43,7 +42,7 @@ struct s_Source {
     s_LayerCrop crop;
 };
 
-/// Size and place of a window in pixels: element "Window" of a layer, and of its shadow.
+/// Size and place of a window: element "Window" of a layer, and of its shadow.
 struct s_LayerWindow {
     s_SupportInfo info;
     s_RangeValue width;
@@ -152,11 +151,11 @@ struct s_Template {
 /// "DeviceMode" is read.
 struct s_LayerDeviceModes {
     s_SupportInfo info;
-    s_BaseAttr customTemplateCount;    ///< Element "CustomTemplateCount".
-    int deviceMode = 255;              ///< Element "DeviceMode", attribute "Value"; 255: the subtree is not there.
-    int templatesValue = 0;            ///< Element "DeviceMode/Templates", attribute "Value".
-    int autoCreate = 0;                ///< Element "DeviceMode/Templates", attribute "AutoCreate".
-    int templatesType = 0;             ///< Element "DeviceMode/Templates", attribute "Type".
+    s_BaseAttr customTemplateCount; ///< Element "CustomTemplateCount".
+    int deviceMode = 255;   ///< Element "DeviceMode", attribute "Value"; 255: the subtree is missing or incomplete.
+    int templatesValue = 0; ///< Element "DeviceMode/Templates", attribute "Value".
+    int autoCreate = 0;     ///< Element "DeviceMode/Templates", attribute "AutoCreate".
+    int templatesType = 0;  ///< Element "DeviceMode/Templates", attribute "Type".
     std::vector<s_Template> templates; ///< In file order.
 };
 

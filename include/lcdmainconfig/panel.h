@@ -1,4 +1,4 @@
-// What the panel's keys are: the factory bindings of the function keys, and the groups of keys that can be locked.
+// What the panel's keys are: the factory bindings of the function buttons, and the groups of keys that can be locked.
 #ifndef LCDMAINCONFIG_PANEL_H
 #define LCDMAINCONFIG_PANEL_H
 
@@ -8,10 +8,10 @@
 
 namespace LCD::MainConfig {
 
-/// The factory binding of one function key: an "FN" element of "fnkeyboardconfig.xml".
+/// The factory binding of one function button: an "FN" element of "fnkeyboardconfig.xml".
 struct s_FnDefaultBinding {
-    int index = 0;  ///< Attribute "index": the number of the function key.
-    int lcdKey = 0; ///< Attribute "lcdKey": the code of the key.
+    int index = 0;  ///< Attribute "index": the number of the function button, from 0; 0 if absent.
+    int lcdKey = 0; ///< Attribute "lcdKey": the code of its key; 0 if absent.
     int type = 0;   ///< Attribute "type"; the file's default value where it is absent.
     int target = 0; ///< Attribute "target"; 0 if absent.
     QString remark; ///< Attribute "remark"; empty if absent.
@@ -19,8 +19,8 @@ struct s_FnDefaultBinding {
 
 /// One key of a lock area: a "Button" element. Both numbers were checked when read; a bad button is dropped.
 struct s_LockAreaButton {
-    int lcdKey = 0;  ///< Attribute "LCDKey": the code by which areas are looked up.
-    int realKey = 0; ///< Attribute "RealKey"; no query reads it.
+    int lcdKey = 0;  ///< Attribute "LCDKey": the code by which areas are looked up; 0 if absent.
+    int realKey = 0; ///< Attribute "RealKey"; 0 if absent. No query reads it.
 };
 
 /// Keys that are locked together: a "LockArea" element.

@@ -223,8 +223,9 @@ struct s_Features {
         s_RangeValue brightness;
     };
 
-    /// Element "Audio", the flags, and its child "Volume", the rest. An absent element stores -1 in its members, and 50
-    /// in `value`; the defaults below stand only where the file has no "Features".
+    /// Element "Audio", the flags, and its child "Volume", the rest. Without "Audio" all six
+    /// members are -1, but `value` is 50; without "Volume" the last four are. The defaults below stand only where the
+    /// file has no "Features".
     struct s_ScreenAudio {
         int support = 0;
         int editable = -1;

@@ -21,7 +21,8 @@ struct s_SlotConnectorGroup {
 
 /// One card model that may sit in a slot: element "Subcard" under "Slot".
 struct s_InlineSubcard {
-    std::uint64_t moduleId = 0;                        ///< Attribute "ModuleId": the card model.
+    /// Attribute "ModuleId": the card model. Unsigned 64 bits; under "MixCardSlots" a signed 64-bit number.
+    std::uint64_t moduleId = 0;
     std::vector<s_SlotConnectorGroup> connectorGroups; ///< Filled for the slots of "MixCardSlots" alone.
 };
 

@@ -4,6 +4,8 @@
 
 #include <dlfcn.h>
 
+#include <utility>
+
 namespace kpmhost {
 namespace {
 
@@ -17,8 +19,15 @@ constexpr std::pair<const char*, const char*> SERVED[] = {
 
 Host::~Host()
 {
+    destroyComponents();
+    if (_pluginInit != nullptr) _pluginInit(nullptr);
+}
+
+void Host::destroyComponents()
+{
     for (auto component = _components.rbegin(); component != _components.rend(); ++component)
         component->info->deletor(component->object);
+    _components.clear();
 }
 
 bool Host::fail(std::string text)
@@ -36,11 +45,15 @@ bool Host::load(const std::string& pluginPath)
     const auto pluginit = reinterpret_cast<kpm::PluginInitFunction*>(dlsym(library, "pluginit"));
     if (pluginfo == nullptr || pluginit == nullptr) return fail(pluginPath + " is no plug-in: it lacks an entry point");
 
+    _pluginInit = pluginit;
     pluginit(this);
     const kpm::PluginInfo* const info = pluginfo();
     for (kpm::ComponentInfo* const* entry = info->componentTable; *entry != nullptr; ++entry) {
         void* const object = (*entry)->creator();
-        if (object == nullptr) return fail(std::string("component ") + (*entry)->id + " could not be made");
+        if (object == nullptr) {
+            destroyComponents();
+            return fail(std::string("component ") + (*entry)->id + " could not be made");
+        }
         _components.push_back({*entry, object});
     }
     _info = info;

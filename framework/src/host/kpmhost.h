@@ -6,11 +6,11 @@
 #include <kpmsdk/plugin.h>
 
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace kpmhost {
 
+/// Not to be made as a static object: the plug-in's records are gone before it would destroy the components.
 class Host final : private kpm::IHostService {
 public:
     Host() = default;
@@ -18,8 +18,8 @@ public:
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
 
-    /// Loads the plug-in and creates its components. False with error() set when the file is no plug-in or a component
-    /// can't be made. To be called once.
+    /// Loads the plug-in and creates its components, all of them or none. False with error() set when the file is no
+    /// plug-in or a component can't be made. To be called once.
     bool load(const std::string& pluginPath);
     [[nodiscard]] const std::string& error() const { return _error; }
 
@@ -41,12 +41,14 @@ private:
     };
 
     bool fail(std::string text);
+    void destroyComponents();
     void reserved0() override {}
     void reserved1() override {}
     void reserved2() override {}
     void* queryInterface(const char* interfaceName) override;
 
     const kpm::PluginInfo* _info = nullptr;
+    kpm::PluginInitFunction* _pluginInit = nullptr;
     std::vector<Component> _components;
     std::string _error;
 };

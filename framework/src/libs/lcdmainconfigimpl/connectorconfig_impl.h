@@ -8,7 +8,7 @@
 #include <QDomElement>
 #include <QLatin1String>
 
-#include <functional>
+#include <type_traits>
 
 namespace LCD::MainConfigImpl {
 
@@ -25,9 +25,9 @@ public:
     /// Replaces the whole list by what the element holds. False, with `out` left alone, for a null element.
     bool readConfigResolution(const QDomElement& element, s_DCSResolution& out) const;
     /// Reads the child `tag` of `parent`; "Step" and "Coefficient" are not read. False, with `out` left alone, when it
-    /// is absent.
+    /// is absent. This and getRGB are the forms of the rows' shapes for a single child, for callers outside the rows.
     bool getAttribute(s_RangeValue& out, const QDomElement& parent, const QLatin1String& tag, QString& error) const;
-    /// The same in the order in which colour settings stand in the files.
+    /// The same for colour settings. It reads in another order, which has no outward effect.
     bool getRGB(s_RangeValue& out, const QDomElement& parent, const QLatin1String& tag, QString& error) const;
 
     /// A copy of a field of the first connector of the type; null when there is none.

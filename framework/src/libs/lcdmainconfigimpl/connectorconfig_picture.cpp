@@ -7,16 +7,16 @@ namespace {
 using s_RGB = s_InterfaceInImageQuality::s_RGB;
 
 // clang-format off
-constexpr auto limits     = cells(Support, Max, Min, DataType, Value);
+constexpr auto channel    = cells(Support, Max, Min, DataType, Value);
 constexpr auto playerList = cells(Support, Editable, Value, enums(Walk::Any));
 constexpr auto count      = cells(Support, Editable, DataType, Value, cell("RangeType", [](auto& record) -> decltype((record.rangeType)) { return record.rangeType; }));
 
 void readChannels(const Reader& in, s_RGB& channels)
 {
     in.read(channels, Support);
-    in.element("R", OnNull::Fail, channels.r, limits);
-    in.element("G", OnNull::Fail, channels.g, limits);
-    in.element("B", OnNull::Fail, channels.b, limits);
+    in.element("R", OnNull::Fail, channels.r, channel);
+    in.element("G", OnNull::Fail, channels.g, channel);
+    in.element("B", OnNull::Fail, channels.b, channel);
 }
 
 void readQuality(const Reader& in, s_InterfaceInImageQuality& quality)

@@ -4,6 +4,8 @@
 
 #include <QDebug>
 
+#include <algorithm>
+
 namespace LCD::MainConfigImpl {
 namespace {
 

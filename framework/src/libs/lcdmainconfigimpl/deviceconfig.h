@@ -58,7 +58,8 @@ private:
     /// The current device; null when there is none, of which the second form warns.
     const s_Device* current() const;
     const s_Device* currentOrWarn() const;
-    /// The first screen of that type of the current device; null, with a warning, when there is none.
+    /// The first screen of that type of the current device, and a copy of it; null, with a warning, when there is none.
+    const s_DCSScreen* screenOrWarn(int screenType) const;
     std::shared_ptr<s_Screens> getScreenData(int screenType) const;
 
     QList<s_Device> _devices; ///< In the order of the readConfig calls; the first one is the current device.

@@ -29,6 +29,17 @@ template <class Record> std::shared_ptr<Record> copyOf(const s_Device* device, R
 
 std::uint64_t deviceKey(const s_Device& device) { return device.feature.moduleId; }
 
+/// The first screen or layer of a type; null when there is none, or no device.
+const s_DCSScreen* screenOf(const s_Device* device, int screenType)
+{
+    return device != nullptr ? firstWhere(device->screens, &s_Screen::type, screenType) : nullptr;
+}
+
+const s_DCSLayer* layerOf(const s_Device* device, int layerType)
+{
+    return device != nullptr ? firstWhere(device->layers, &s_Layer::type, layerType) : nullptr;
+}
+
 } // namespace
 
 const s_Device* DeviceConfig::current() const { return firstWhere(_devices, deviceKey, findDeviceModelId()); }
@@ -160,45 +171,45 @@ std::string DeviceConfig::getRelativePath(RelativePathType type) const
 
 // --- Screens
 
-std::shared_ptr<s_Screens> DeviceConfig::getScreenData(int screenType) const
+const s_DCSScreen* DeviceConfig::screenOrWarn(int screenType) const
 {
     const s_Device* const device = currentOrWarn();
-    if (device == nullptr) return {};
-    if (const s_DCSScreen* const screen = firstWhere(device->screens, &s_Screen::type, screenType)) {
-        auto copy = std::make_shared<s_Screens>();
-        static_cast<s_Screen&>(*copy) = *screen;
-        return copy;
-    }
-    qWarning().noquote() << QStringLiteral("could not find screen type(%1)'s cfg.").arg(screenType);
-    return {};
+    const s_DCSScreen* const screen = screenOf(device, screenType);
+    if (device != nullptr && screen == nullptr)
+        qWarning().noquote() << QStringLiteral("could not find screen type(%1)'s cfg.").arg(screenType);
+    return screen;
+}
+
+std::shared_ptr<s_Screens> DeviceConfig::getScreenData(int screenType) const
+{
+    const s_DCSScreen* const screen = screenOrWarn(screenType);
+    return screen != nullptr ? std::make_shared<s_Screens>(s_Screens{*screen}) : nullptr;
 }
 
 std::shared_ptr<s_Screen> DeviceConfig::screenConfigs(int screenType) const { return getScreenData(screenType); }
 
 std::shared_ptr<s_ThreeD> DeviceConfig::screenThreeDConfigs(int screenType) const
 {
-    const auto screen = getScreenData(screenType);
-    return screen ? newCopy(screen->features.threeD) : nullptr;
+    const s_DCSScreen* const screen = screenOrWarn(screenType);
+    return screen != nullptr ? newCopy(screen->features.threeD) : nullptr;
 }
 
 std::shared_ptr<s_Genlock> DeviceConfig::genlockScreenConfigs(int screenType) const
 {
-    const auto screen = getScreenData(screenType);
-    return screen ? newCopy(screen->features.genlock) : nullptr;
+    const s_DCSScreen* const screen = screenOrWarn(screenType);
+    return screen != nullptr ? newCopy(screen->features.genlock) : nullptr;
 }
 
 std::vector<s_LayerType> DeviceConfig::findLayerTypes(int screenType, int deviceMode) const
 {
-    const s_Device* const device = current();
-    const auto* const screen = device ? firstWhere(device->screens, &s_Screen::type, screenType) : nullptr;
+    const s_DCSScreen* const screen = screenOf(current(), screenType);
     const auto* const mode = screen ? firstWhere(screen->deviceModes, &s_ScreenDeviceMode::value, deviceMode) : nullptr;
     return mode ? mode->layerTypes : std::vector<s_LayerType>();
 }
 
 s_SenderGenLock DeviceConfig::findFramerates(int screenType) const
 {
-    const s_Device* const device = current();
-    const auto* const screen = device ? firstWhere(device->screens, &s_Screen::type, screenType) : nullptr;
+    const s_DCSScreen* const screen = screenOf(current(), screenType);
     return screen ? screen->features.senderGenLock : s_SenderGenLock();
 }
 
@@ -207,28 +218,27 @@ s_SenderGenLock DeviceConfig::findFramerates(int screenType) const
 std::shared_ptr<s_Layer> DeviceConfig::layerConfigs(int layerType) const
 {
     const s_Device* const device = currentOrWarn();
-    if (device == nullptr) return {};
-    if (const s_DCSLayer* const layer = firstWhere(device->layers, &s_Layer::type, layerType))
-        return newCopy<s_Layer>(*layer);
-    qWarning().noquote() << QStringLiteral("could not find layer type(%1)'s cfg.").arg(layerType);
+    const s_DCSLayer* const layer = layerOf(device, layerType);
+    if (layer != nullptr) return newCopy<s_Layer>(*layer);
+    if (device != nullptr)
+        qWarning().noquote() << QStringLiteral("could not find layer type(%1)'s cfg.").arg(layerType);
     return {};
 }
 
 std::shared_ptr<s_LayerCutoutGeneral> DeviceConfig::layerCutoutConfigs(int layerType) const
 {
     const s_Device* const device = currentOrWarn();
-    if (device == nullptr) return {};
-    if (const s_DCSLayer* const layer = firstWhere(device->layers, &s_Layer::type, layerType))
-        return newCopy(layer->cutoutGeneral);
+    const s_DCSLayer* const layer = layerOf(device, layerType);
+    if (layer != nullptr) return newCopy(layer->cutoutGeneral);
     // Worded unlike layerConfigs(), which is meant.
-    qWarning().noquote() << QStringLiteral("could not find layer type:(%1)'s cfg.").arg(layerType);
+    if (device != nullptr)
+        qWarning().noquote() << QStringLiteral("could not find layer type:(%1)'s cfg.").arg(layerType);
     return {};
 }
 
 s_LayerWindow DeviceConfig::findLayerWindowDefaultRange(int layerType) const
 {
-    const s_Device* const device = current();
-    const auto* const layer = device ? firstWhere(device->layers, &s_Layer::type, layerType) : nullptr;
+    const s_DCSLayer* const layer = layerOf(current(), layerType);
     return layer ? layer->window : s_LayerWindow();
 }
 

@@ -84,11 +84,11 @@ void readDevice(const Reader& in, s_DeviceFeature& feature)
     in.staged("Upgrade",                     OnNull::Note, feature.upgrade,                 readUpgrade);
     in.staged("DeviceSelfTest",              OnNull::Note, feature.deviceSelfTest,          Support("1"));
     in.staged("MosaicSource",                OnNull::Note, feature.mosaicSource,            readMosaicSource);
-    // Not staged, and alone among the subtrees a gap in an audio mode ends the file, which is meant.
+    // Not staged, and a gap in an audio mode ends the file, which is meant.
     in.element("SoundConsole",               OnNull::Note, feature.soundConsole,            readSoundConsole);
     in.staged("Custom",                      OnNull::Skip, feature.custom,                  Support("0"), Editable("1"));
     in.staged("Ptzs",                        OnNull::Note, feature.ptzs,                    readPtzs);
-    in.element("Preset",                     OnNull::Fail, feature.preset,                  readPreset);
+    in.element("Preset",                     OnNull::Fail, feature.preset,                  whole(readPreset));
     in.staged("CleanFeeds",                  OnNull::Skip, feature.cleanFeeds,              readCleanFeeds);
     in.staged("Audio",                       OnNull::Skip, feature.audio,                   readAudio);
     features.staged("Tally",                 OnNull::Skip, feature.tally,                   readTally);
@@ -98,9 +98,9 @@ void readDevice(const Reader& in, s_DeviceFeature& feature)
 
 } // namespace
 
-bool DeviceFeatureConfig::parseDeviceFeaturecfg(const QString& filePath, QString& error, s_DeviceFeature& feature) const
+bool DeviceFeatureConfig::parseDeviceFeaturecfg(const QString& filePath, QString& errorMessage, s_DeviceFeature& feature) const
 {
-    const Report report{error, tr};
+    const Report report{errorMessage, tr};
     return readDocument(filePath, DEVICE_FRAME, report, feature, below("Device", OnNull::Fail, readDevice));
 }
 

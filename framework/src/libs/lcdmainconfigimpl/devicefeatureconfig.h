@@ -21,12 +21,15 @@ public:
     /// The one instance, made on first use. It lives until the process ends. Safe to call from any thread.
     static DeviceFeatureConfig* instance();
 
-    /// Reads the file into `out`. False with `error` set when the file can't be used.
-    bool parseDeviceFeaturecfg(const QString& filePath, QString& error, LCD::MainConfig::s_DeviceFeature& out) const;
+    /// Reads the file into `feature`, a fresh record, which may be partly written when the result is false. False with
+    /// `errorMessage` set when the file can't be used; a true result may leave the message of the last absent element.
+    bool parseDeviceFeaturecfg(const QString& filePath, QString& errorMessage,
+                               LCD::MainConfig::s_DeviceFeature& feature) const;
     /// Reads "Preset" below the element "Device". False with `errorMessage` set when it, or its "PresetCount", is
     /// absent.
     bool presetConfig(const QDomElement& device, QString& errorMessage, LCD::MainConfig::s_Preset& preset) const;
-    /// Reads "Media" below the element "Features". False with `errorMessage` set; what was stored stays.
+    /// Reads "Media" below the element "Features". False with `errorMessage` set when it is absent or
+    /// when "PicSet" is there; what was stored stays.
     bool mediaPoolCfg(const QDomElement& features, QString& errorMessage,
                       LCD::MainConfig::s_MediaPool& mediaPool) const;
 

@@ -18,10 +18,10 @@ void readMediaPool(const Reader& in, s_MediaPool& mediaPool)
 {
     in.read(mediaPool, Support("1"), Editable("0"));
     // An absent block is read as one without attributes, and no block takes its list from the file: this is meant.
-    in.staged("Audio",  OnNull::ReadDefaults, mediaPool.audio,  Support("1"), Editable("0"));
+    in.element("Audio",  OnNull::ReadDefaults, mediaPool.audio,  Support("1"), Editable("0"));
     // A picture set that is there counts as the bad one, which is meant.
     if (in.has("PicSet")) in.fail("PicSet");
-    in.staged("PicSet", OnNull::ReadDefaults, mediaPool.picSet, Support("1"), Editable("0"));
+    in.element("PicSet", OnNull::ReadDefaults, mediaPool.picSet, Support("1"), Editable("0"));
 }
 
 namespace {
@@ -162,7 +162,7 @@ void readResource(const Reader& in, s_TemplateResourceInfo& places)
 void readTemplateResource(const Reader& in, s_TemplateResourceInfo& places)
 {
     in.read(places, flags);
-    in.each(Walk::Any, "", [&places](const Reader& resource) { resource.read(places, readResource); });
+    in.each(Walk::Any, "", [&places](const Reader& resource) { readResource(resource, places); });
 }
 
 void readUpgrade(const Reader& in, s_Upgrade& upgrade)

@@ -9,7 +9,6 @@ using namespace reading;
 namespace {
 
 // clang-format off
-constexpr auto setting  = cells(flags, DataType("0"), Value("0"), enums(Walk::Named, "0"));
 constexpr auto number   = cells(flags, Value("0"));
 constexpr auto display  = cells(number, enums(Walk::Named, "0"));
 constexpr auto business = cells(number, list(Walk::Named, "Enum", &s_Tally::s_Business::businessEnums, Value("0"), Default("0")));

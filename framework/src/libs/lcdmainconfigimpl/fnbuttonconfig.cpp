@@ -1,4 +1,4 @@
-// The function-key file's reader, and the binding that a key has before the user gives it one.
+// The function-button file's reader, and the binding that a button has before the user gives it one.
 #include "fnbuttonconfig.h"
 
 #include "reading/cells.h"
@@ -18,7 +18,7 @@ constexpr Frame FN_FRAME{
     .wrongRoot = "The file is not a valid configuration file for lcd.",
 };
 
-/// The key code of function key 0. Unsigned, so that no index that a caller may ask for overflows.
+/// The key code of function button 0. Unsigned, so that no index that a caller may ask for overflows.
 constexpr unsigned FIRST_KEY_CODE = 321;
 
 struct FnDefaults {

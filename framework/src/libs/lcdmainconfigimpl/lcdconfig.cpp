@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <atomic>
+
 namespace LCD::MainConfigImpl {
 
 namespace {

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <atomic>
+
 namespace LCD::MainConfigImpl {
 
 namespace {
@@ -183,7 +185,7 @@ void LcdLanguageConfig::setSourceCustomSort(const QString& name, int value)
     _impl->change([&](IniFile& setting) {
         // QSettings refuses an empty key; under its section it would pass for the section's own name.
         setting.setValue(name.isEmpty() ? name : SOURCE_CUSTOM_SORT + ('/' + name), value);
-        setting.writeNow();
+        setting.write();
     });
 }
 
@@ -197,7 +199,7 @@ std::vector<s_SourceCustomSort> LcdLanguageConfig::getSourceCustomSort() const
             if (path.size() == 2 && path.first() == SOURCE_CUSTOM_SORT && parts.size() == 2)
                 sorts.push_back({parts[0].toInt(), parts[1].toInt(), setting.value(key).toInt()});
         }
-        setting.writeNow();
+        setting.write();
         return sorts;
     });
 }
@@ -206,7 +208,7 @@ void LcdLanguageConfig::removeGroups(const QStringList& groups)
 {
     _impl->changeUnlocked([&](IniFile& setting) {
         for (const QString& group : groups) setting.remove(group);
-        setting.writeNow();
+        setting.write();
     });
 }
 

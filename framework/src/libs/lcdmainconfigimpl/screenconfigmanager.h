@@ -23,7 +23,8 @@ public:
     /// Deletes the instance; the next instance() makes a new one.
     static void destroyInstance();
 
-    /// Reads the file into `out`. False with `error` set when the file can't be used.
+    /// Reads the file into `out`, a fresh record. False with `error` set when the file can't be used; a true result may
+    /// leave in `error` the message of the last absent element.
     bool parseDeviceScreencfg(const QString& filePath, QString& error, LCD::MainConfig::s_DCSScreen& out) const;
     /// Reads the element "ThreeD" below `parent`. False with `errorText` set when it, or its "EmitterDelay", is absent.
     bool threeDConfig(const QDomElement& parent, QString& errorText, LCD::MainConfig::s_ThreeD& threeD) const;

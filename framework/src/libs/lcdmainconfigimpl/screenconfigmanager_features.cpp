@@ -1,4 +1,4 @@
-// The features of a screen type: what may be set on it, from its background to its emitter of 3D glasses.
+// The features of a screen type: what may be set on it, from the background to the emitter of its 3D glasses.
 #include "reading/cells.h"
 #include "screenconfigmanager.h"
 #include "screenconfigmanager_impl.h"
@@ -58,7 +58,7 @@ void readTestPattern(const Reader& in, s_TestPattern& pattern)
 
 s_Features::s_ScreenAudio readAudio(const Reader& in)
 {
-    // What the file leaves out is told by -1, and a volume by 50; the flags of a present element are 0.
+    // What the file leaves out is told by -1, and a volume by 50.
     s_Features::s_ScreenAudio audio{-1, -1, -1, -1, -1, 50};
     in.element("Audio", OnNull::Skip, audio, Support, Editable, below("Volume", OnNull::Skip, Min, Max, Step, Value));
     return audio;
@@ -71,7 +71,8 @@ void readFeatures(const Reader& in, s_Features& features)
 {
     // "General" and "Mosaic" may stand in the file, but nothing of them is kept; this is meant.
     in.staged ("BackgroundColor", OnNull::Skip, features.backgroundColor, backgroundColor);
-    // Turned round on purpose: a present "Layout" leaves the defaults, an absent one takes the right to edit.
+    // Turned round on purpose: a present "Layout" leaves the defaults, an absent one forbids editing.
+    features.layout = {};
     if (!in.has("Layout")) features.layout.editable = 0;
     in.staged ("PGMEdit",         OnNull::Skip, features.pgmEdit,         choice);
     in.staged ("Selected",        OnNull::Skip, features.selected,        choice);
@@ -91,10 +92,7 @@ void readFeatures(const Reader& in, s_Features& features)
 
 bool ScreenConfigManager::threeDConfig(const QDomElement& parent, QString& errorText, s_ThreeD& threeD) const
 {
-    const Report report{errorText, tr};
-    bool failed = false;
-    Reader(parent, report, failed).element("ThreeD", OnNull::Fail, threeD, emitterDelay);
-    return !failed;
+    return readElement(parent, Report{errorText, tr}, threeD, below("ThreeD", OnNull::Fail, emitterDelay));
 }
 
 } // namespace LCD::MainConfigImpl

@@ -22,7 +22,7 @@ public:
     /// Deletes the instance; the next instance() makes a new one.
     static void destroyInstance();
 
-    /// Reads the file to the end of `out`. False with `error` set when the file can't be used.
+    /// Appends the file's entries to `out`, which is not cleared. False with `error` set when the file can't be used.
     bool parseDeviceSilkcfg(const QString& filePath, QString& error,
                             std::vector<LCD::MainConfig::s_SilkOrder>& out) const;
 

@@ -1,6 +1,6 @@
 // How an attribute's text becomes a field. Every number of every file is converted here and nowhere else. A text that
-// is no number of the wanted kind gives 0; the result tells so, and the loader's readers ignore it on purpose: a bad
-// number in a capability file is no error.
+// is no number of the wanted kind gives 0; the result tells so, and all readers but that of the lock areas ignore it on
+// purpose: a bad number in a capability file is no error.
 #ifndef LCDMAINCONFIGIMPL_READING_CONVERT_H
 #define LCDMAINCONFIGIMPL_READING_CONVERT_H
 

@@ -18,8 +18,8 @@ public:
     /// The mutex is the one under which values are set.
     IniFile(const QString& path, std::mutex& mutex);
 
-    /// Writes what is pending. With no room for it, it stays pending and the file as it is.
-    void writeNow();
+    /// Writes what is pending. False: there is no room for it; it stays pending and the file as it is.
+    bool write();
 
     struct Closer {
         void operator()(IniFile* file) const;

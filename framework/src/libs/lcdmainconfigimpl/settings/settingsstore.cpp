@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include <QDebug>
+#include <QFileInfo>
 
 namespace LCD::MainConfigImpl {
 
@@ -11,6 +12,14 @@ void linuxSync() { [[maybe_unused]] const int ignored = std::system("sync"); }
 void SettingsStore::open(const QString& path)
 {
     const std::lock_guard lock(_mutex);
+    const QString file = QFileInfo(path).absoluteFilePath();
+    for (const IniFile::Pointer& opened : _opened)
+        if (opened->fileName() == file) {
+            // A second QSettings on the file would write what is pending, room or not.
+            opened->write();
+            _setting = opened.get();
+            return;
+        }
     _setting = _opened.emplace_back(new IniFile(path, _mutex)).get();
 }
 
@@ -51,7 +60,7 @@ QStringList SettingsStore::seeded(std::initializer_list<Seed> entries) const
             setting->setValue(entry.key, entry.text);
             ++written;
         }
-        if (written > 0) setting->writeNow();
+        if (written > 0) setting->write();
     }
     while (written-- > 0) linuxSync();
     return texts;
@@ -66,7 +75,7 @@ void SettingsStore::setNow(const QString& key, const QVariant& value)
 {
     const auto use = [&](IniFile& setting) {
         setting.setValue(key, value);
-        setting.writeNow();
+        setting.write();
     };
     if (change(use)) linuxSync();
 }
