@@ -20,9 +20,9 @@ public:
 
     /// Loads the files of `path` and its direct subdirectories that belong to a card model that some device slot can
     /// hold; the devices must have been read before. Returns false when the load had to stop; cards read before that
-    /// stay. `error` is written only when a problem is met, and holds the last one, also where the result is true; without
-    /// any device the result is false and only the log tells. A missing directory is made. A second call appends. A host
-    /// that does not serve the device catalogue ends the process.
+    /// stay. `error` is written only when a problem is met, and holds the last one, also where the result is true;
+    /// without any device the result is false and only the log tells. A missing directory is made. A second call
+    /// appends. A host that does not serve the device catalogue ends the process.
     virtual bool readConfig(const QString& path, QString& error) = 0;
 
     /// The whole catalogue; never null.
