@@ -240,7 +240,7 @@ private:
     {
         const Lcd::IFNButtonConfig& keys = _session.functionKeys();
         const int bindings = keys.findDefaultBindings().size();
-        add("Function keys", Catalogue::FunctionKeys, keys.findFNBtnMaxCount(),
+        add("Function buttons", Catalogue::FunctionKeys, keys.findFNBtnMaxCount(),
             bindings == 0 ? QString() : QString("%1 with a factory binding").arg(bindings));
 
         const Lcd::IKeyCheckConfig& checks = _session.keyChecks();

@@ -77,7 +77,7 @@ template <class Config> QString read(const Config& config, const Value<Config>& 
 
 void addKey(Table& table, int index, const QString& value)
 {
-    table.add({QString("Function key %1").arg(index), value});
+    table.add({QString("Function button %1").arg(index), value});
 }
 
 void tellFactory(const Session& session, Page& page, int functionKeys)
