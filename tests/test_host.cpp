@@ -93,7 +93,7 @@ void TestHost::answers_data()
         {"load: card names of a slot", "load ROOT", 0,
          "     7  OUT        output         301  4x HDMI 2.0 output card\n"
          "                                  302  not in catalogue\n     8"},
-        {"load: a card without a file", "load ROOT", 0, "Cards                 10  no file for 302\n"},
+        {"load: a card without a file", "load ROOT", 0, "Cards                  10  no file for 302\n"},
         {"load: nothing wrong", "load ROOT", 0, "\nNo problems\n"},
         {"load: language", "load ROOT --language zh_CN", 0, "100  主控卡\n"},
         {"cards: wide characters", "cards ROOT", 0,
