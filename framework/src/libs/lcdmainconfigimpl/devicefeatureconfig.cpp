@@ -98,7 +98,8 @@ void readDevice(const Reader& in, s_DeviceFeature& feature)
 
 } // namespace
 
-bool DeviceFeatureConfig::parseDeviceFeaturecfg(const QString& filePath, QString& errorMessage, s_DeviceFeature& feature) const
+bool DeviceFeatureConfig::parseDeviceFeaturecfg(const QString& filePath, QString& errorMessage,
+                                                s_DeviceFeature& feature) const
 {
     const Report report{errorMessage, tr};
     return readDocument(filePath, DEVICE_FRAME, report, feature, below("Device", OnNull::Fail, readDevice));

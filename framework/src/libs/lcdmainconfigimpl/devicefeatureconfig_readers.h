@@ -13,8 +13,8 @@ namespace LCD::MainConfigImpl::featurefile {
 inline constexpr auto flags = reading::cells(reading::Support("1"), reading::Editable("1"));
 
 /// A setting with allowed values, as the later subtrees of the file give it.
-inline constexpr auto setting = reading::cells(flags, reading::DataType("0"), reading::Value("0"),
-                                               reading::enums(reading::Walk::Named, "0"));
+inline constexpr auto setting =
+    reading::cells(flags, reading::DataType("0"), reading::Value("0"), reading::enums(reading::Walk::Named, "0"));
 
 /// A storage place.
 inline constexpr auto place = reading::cells(reading::RelativePath, reading::AbsolutePath);

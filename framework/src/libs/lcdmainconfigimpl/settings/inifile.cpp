@@ -55,7 +55,8 @@ void IniFile::Closer::operator()(IniFile* file) const
         delete file;
         return;
     }
-    // The destructor would write. So the object is left behind, cut off from the event loop and in sight of leak checks.
+    // The destructor would write. So the object is left behind, cut off from the event loop and in sight of leak
+    // checks.
     file->_retry.stop();
     QCoreApplication::removePostedEvents(file);
     static auto& leftBehind = *new std::vector<IniFile*>;
