@@ -196,8 +196,9 @@ std::vector<int> LcdConfig::getInputListNoSupportConnectorType() const
 {
     return _impl->readOrWarn(std::vector<int>{}, [](QSettings& setting) {
         const SettingsArray leftOut(setting, INPUT_LIST_LEFT_OUT);
-        std::vector<int> types;
-        for (int row = 0; row < leftOut.size(); ++row) types.push_back(leftOut.number(row, CONNECTOR_TYPE));
+        const int rows = leftOut.size();
+        std::vector<int> types(static_cast<std::size_t>(rows));
+        for (int row = 0; row < rows; ++row) types[static_cast<std::size_t>(row)] = leftOut.number(row, CONNECTOR_TYPE);
         return types;
     });
 }

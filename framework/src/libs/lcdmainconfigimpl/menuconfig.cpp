@@ -88,7 +88,7 @@ std::shared_ptr<s_MenuItem> MenuConfig::findMenuItem(QString key) const
     QQueue<Item> queue;
     queue.enqueue(_impl->root);
     while (!queue.isEmpty()) {
-        const Item item = queue.dequeue();
+        Item item = queue.dequeue();
         if (item->key == key) return item;
         queue.append(item->children);
     }

@@ -59,9 +59,9 @@ std::optional<Reader> Reader::find(const QString& tag, OnNull onNull) const
 
 std::optional<Reader> Reader::firstChild() const
 {
-    QDomElement child = first(Walk::Any, "");
+    const QDomElement child = first(Walk::Any, "");
     if (failed() || child.isNull()) return {};
-    return Reader(std::move(child), *_report, *_failed);
+    return Reader(child, *_report, *_failed);
 }
 
 Reader Reader::required(Literal tag) const { return find(tag, OnNull::Fail).value_or(Reader({}, *_report, *_failed)); }

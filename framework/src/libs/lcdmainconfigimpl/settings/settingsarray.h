@@ -12,7 +12,9 @@ class SettingsArray {
 public:
     SettingsArray(QSettings& setting, const char* name) : _setting(setting), _prefix(QString(name) + '/') {}
 
-    [[nodiscard]] int size() const { return _setting.value(_prefix + "size").toInt(); }
+    /// As the file tells it, but no more than a file can sensibly hold: a mistyped number must not keep the panel
+    /// waiting.
+    [[nodiscard]] int size() const { return qBound(0, _setting.value(_prefix + "size").toInt(), MOST_ROWS); }
     /// Makes room for rows up to `size`; never shrinks.
     void growTo(int size)
     {
@@ -31,6 +33,8 @@ public:
     }
 
 private:
+    static constexpr int MOST_ROWS = 65536;
+
     [[nodiscard]] QString key(int row, const char* entry) const
     {
         return _prefix + QString::number(row + 1) + '/' + entry;
