@@ -49,7 +49,7 @@ void readSoundConsole(const Reader& in, s_DeviceFeature::s_SoundConsole& console
 
 namespace {
 
-constexpr auto base    = cells(flags, Value("0"), DataType("0"));
+constexpr auto base = cells(flags, Value("0"), DataType("0"));
 
 void readAudioEdit(const Reader& in, s_DeviceFeatureAudio& audio)
 {

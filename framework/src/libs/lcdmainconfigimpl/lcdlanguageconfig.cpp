@@ -155,7 +155,7 @@ std::vector<std::pair<int, QString>> LcdLanguageConfig::getRTSPSettingPara() con
                                              {RTSP_PORT, DefaultRTSPPort},
                                              {RTSP_USER_NAME, DefaultRTSPUserName}});
     std::vector<std::pair<int, QString>> numbered;
-    for (const QString& text : texts) numbered.emplace_back(int(numbered.size()), text);
+    for (int number = 0; number < texts.size(); ++number) numbered.emplace_back(number, texts[number]);
     return numbered;
 }
 

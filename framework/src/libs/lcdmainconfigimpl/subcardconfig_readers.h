@@ -19,7 +19,7 @@ void readCapacityGroup(const Reader& in, s_CapacityInCapacityGroups& group);
 void readConnectorCopy(const Reader& in, s_Subcard& card);
 
 /// Most lists of a card file: an entry for every child element, whatever its tag.
-template <class Access, class... Cells> constexpr auto entries(Access access, const Cells&... parts)
+template <class Access, class... Cells> constexpr auto entries(Access access, Cells... parts)
 {
     return list(Walk::Any, "", access, parts...);
 }

@@ -5,7 +5,7 @@ namespace LCD::MainConfigImpl::cardfile {
 namespace {
 
 /// A child of which there should be one; of several the last replaces those before it.
-template <class Access, class... Cells> constexpr auto last(Literal tag, Access access, const Cells&... parts)
+template <class Access, class... Cells> constexpr auto last(Literal tag, Access access, Cells... parts)
 {
     return [tag, access, parts...](const Reader& in, auto& record) {
         in.each(Walk::Named, tag, [&](const Reader& element) {

@@ -1,5 +1,5 @@
-// The cells that readers put into their rows: the attributes that many elements share, under their names, and the two
-// words for the rest, attribute cells over any member and lists.
+// The cells that readers put into their rows: the attributes that many elements share, under their names, and the
+// words for the rest: attribute cells over any member, lists, children and shapes of several cells.
 //
 // `Min("100")` reads the attribute "Min", or the text 100 where it is absent, into `min` of whatever record has such a
 // member, and does not compile for one that has none. `Min` alone has an empty read default.
@@ -8,7 +8,8 @@
 
 #include "reader.h"
 
-#include <tuple>
+#include <concepts>
+#include <functional>
 
 namespace LCD::MainConfigImpl::reading {
 
@@ -102,7 +103,7 @@ template <class... Cells> constexpr auto below(Literal tag, OnNull onNull, Cells
 }
 
 /// Cells that fill a member of the record from the element itself.
-template <class Access, class... Cells> constexpr auto part(Access access, const Cells&... parts)
+template <class Access, class... Cells> constexpr auto part(Access access, Cells... parts)
 {
     return [access, parts...](const Reader& in, auto& record) { in.read(std::invoke(access, record), parts...); };
 }
