@@ -46,7 +46,7 @@ public:
     std::string getRelativePath(RelativePathType type) const override;
 
     /// The readers of one file each, by kind. `out` is the kind's fresh record; false with `error` set when the file is
-    /// of no use.
+    /// of no use. A true result may leave in `error` the message of an absent element.
     bool parseDeviceFeaturecfg(const QString& filePath, QString& error, s_DeviceFeature& out) const;
     bool parseDeviceSlotcfg(const QString& filePath, QString& error, s_DCSSolt& out) const;
     bool parseDeviceLayercfg(const QString& filePath, QString& error, s_DCSLayer& out) const;
