@@ -104,13 +104,16 @@ public:
 
     /// An attribute, or the content of the element.
     virtual void asked(const QDomElement& /*element*/, const Asked& /*asked*/) {}
-    /// The first child of that tag. The result is read in the place of `found`, so that a listener can put in a child
-    /// that is missing; it need not stand in the document.
+    /// The first child of that tag, in a scope of failure. The result is read in the place of `found`, so that a
+    /// listener can put in a child that is missing; it need not stand in the document.
     virtual QDomElement child(const QDomElement& /*parent*/, const QString& /*tag*/, OnNull /*cost*/,
-                              const QDomElement& found)
+                              const bool* /*scope*/, const QDomElement& found)
     {
         return found;
     }
+    /// A scope of failure begins: what fails in it costs what is read of this element from here on, and no more. The
+    /// address is the scope's name until another scope begins under it.
+    virtual void scopeBegins(const bool* /*scope*/, const QDomElement& /*element*/) {}
     /// Whether a child of that tag is there at all; its absence costs nothing yet.
     virtual void childTested(const QDomElement& /*parent*/, const QString& /*tag*/, bool /*found*/) {}
     /// Whether the element holds anything. The result counts.
@@ -123,7 +126,7 @@ public:
     /// A walk has come to an element.
     virtual void visited(const QDomElement& /*element*/, Walk /*walk*/, const QString& /*tag*/) {}
     /// A reader ends here with a message about `tag`, for a reason of its own. True: it goes on all the same.
-    virtual bool failed(const QDomElement& /*element*/, const QString& /*tag*/) { return false; }
+    virtual bool failed(const QDomElement& /*element*/, const QString& /*tag*/, const bool* /*scope*/) { return false; }
 
     // Where it goes.
 

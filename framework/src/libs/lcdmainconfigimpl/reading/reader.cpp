@@ -18,6 +18,13 @@ Reader::Reader(const QDomElement& element, const Report& report, bool& failed)
     : _element(element), _report(&report), _failed(&failed)
 {}
 
+Reader Reader::scoped(bool& failed) const
+{
+    if (listener() != nullptr) [[unlikely]]
+        listener()->scopeBegins(&failed, _element);
+    return {_element, *_report, failed};
+}
+
 void Reader::leave(const QString& tag, const char* message, bool log) const
 {
     _report->error = _report->say(message != nullptr ? message : _report->invalidNode, tag);
@@ -26,7 +33,7 @@ void Reader::leave(const QString& tag, const char* message, bool log) const
 
 void Reader::fail(Literal tag, const char* message) const
 {
-    if (failed() || (listener() != nullptr && listener()->failed(_element, tag.string()))) return;
+    if (failed() || (listener() != nullptr && listener()->failed(_element, tag.string(), _failed))) return;
     leave(tag.string(), message, false);
     *_failed = true;
 }
@@ -95,7 +102,7 @@ std::optional<Reader> Reader::find(const QString& tag, OnNull onNull) const
     if (failed()) return {};
     QDomElement child = _element.firstChildElement(tag);
     if (listener() != nullptr) [[unlikely]]
-        child = listener()->child(_element, tag, onNull, child);
+        child = listener()->child(_element, tag, onNull, _failed, child);
     if (!child.isNull() || onNull == OnNull::ReadDefaults) return Reader(child, *_report, *_failed);
     if (onNull == OnNull::Skip) return {};
     leave(tag, nullptr, onNull == OnNull::FailAndLog || onNull == OnNull::NoteAndLog);
