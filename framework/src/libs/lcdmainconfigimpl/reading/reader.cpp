@@ -52,8 +52,8 @@ bool Reader::has(Literal tag) const
 
 bool Reader::hasAttribute(Literal name) const
 {
-    tell(name, "", Kind::Presence);
-    return _element.hasAttribute(name.string());
+    const bool found = _element.hasAttribute(name.string());
+    return listener() != nullptr ? listener()->attributeTested(_element, name.string(), found) : found;
 }
 
 bool Reader::hasContent() const
@@ -65,8 +65,7 @@ bool Reader::hasContent() const
 bool Reader::is(Literal tag) const
 {
     const bool same = _element.tagName() == tag.string();
-    if (listener() != nullptr) listener()->tagTested(_element, tag.string(), same);
-    return same;
+    return listener() != nullptr ? listener()->tagTested(_element, tag.string(), same) : same;
 }
 
 QString Reader::attribute(Literal name, Literal readDefault) const
