@@ -12,14 +12,13 @@ namespace LCD::MainConfig {
 
 /// The capacity modes that an interface type allows. Card file, element InterfaceType or Interface of a type.
 struct s_InterfaceInTypes {
-    int type = -1;              ///< Interface type, a key of the query; -1: no file was read. Attribute "Type".
+    int type = -1;              ///< Interface type, a key of the query. Attribute "Type"; 0 if absent.
     std::vector<int> capacitys; ///< Capacity modes to choose from: the "Enum" values of "Capacitys", in file order.
 };
 
 /// What an output of an interface type can show. Card file, element OutputDisplay of a type.
 struct s_OutputDisplayInTypes {
-    /// Interface type; -1: no file was read. Attribute "Type" of the first "InterfaceType"; 0 without it.
-    int type = -1;
+    int type = -1; ///< Interface type of the outputs. Attribute "Type" of the first "InterfaceType"; 0 without it.
     /// Kinds of picture: 0 programme, 1 preview, 2 test pattern in the example. The "Enum" values of
     /// "InterfaceType/OutputDisplay".
     std::vector<int> outputDisplays;
