@@ -30,7 +30,7 @@ struct s_FuncFeatures {
         s_EnumField screenType;
     };
 
-    /// Groups, such as of screens or layers. Feature file, element Features/Group.
+    /// Groups that the user makes. Feature file, element Features/Group.
     struct s_GroupFeature : s_SupportInfo {
         /// Name that a new group gets, and the limits of its length, 0 to 255 unless the file says otherwise. Element
         /// "Name".
@@ -47,7 +47,7 @@ struct s_FuncFeatures {
     s_InterfaceMapping interfaceMapping;
     s_CutoutPos cutoutPos;         ///< How the place of a cut-out is given. Element "CutoutPos".
     s_GroupFeature group;          ///< Groups and the limits of their names. Element "Group".
-    s_EnumField swap;              ///< Swapping of sources: 0 off, 1 copy, 2 exchange in the example. Element "Swap".
+    s_EnumField swap;              ///< What a swap does: 0 nothing, 1 copy, 2 exchange in the example. Element "Swap".
     s_Language language;           ///< Languages of the panel. Element "Language".
     s_SwitchEffect switchEffect;   ///< Transitions between sources. Element "SwitchEffect".
     s_RecodeSettingCfg record;     ///< Recording: places, capacities and durations. Element "Record".
@@ -129,7 +129,8 @@ struct s_DeviceFeature {
     s_MOSAICSource mosaicSource;    ///< Mosaic inputs and their templates. Element "MosaicSource".
     s_PushStreamSetting pushStream; ///< Pushing of streams. Element "Features/PushStream".
     s_SoundConsole soundConsole;    ///< Audio modes of the mixing console. Element "SoundConsole".
-    /// Whether the device takes customer-specific settings; not supported unless the file says so. Element "Custom".
+    /// Whether the device has custom functions, which the panel knows; not supported unless the file says so. Element
+    /// "Custom".
     s_SupportInfo custom;
     s_Pictures pictures;                     ///< Where pictures are stored. Element "Pictures".
     s_TemplateResourceInfo templateResource; ///< Where the device keeps its resources. Element "TemplateResource".

@@ -73,7 +73,7 @@ struct s_MOSAICSource : s_SupportInfo {
     s_CapacityCalculate capacityCalculate;
     /// Template that the device starts with, by its number. Attribute "DeviceDefaultTemplate" of "MosaicTemplates".
     int deviceDefaultTemplate = -1;
-    int step = -1; ///< Distance between two sizes or places that can be set. Attribute "Step" of "MosaicTemplates".
+    int step = -1; ///< Step of changes to a template; its unit is the panel's. Attribute "Step" of "MosaicTemplates".
     /// Templates of each sub-source type, in file order: the child elements of "MosaicTemplates".
     std::vector<s_SubSourceType> subSourceTypes;
 };

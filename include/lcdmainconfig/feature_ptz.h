@@ -76,11 +76,12 @@ struct s_Ptzs : s_SupportInfo {
     std::vector<EnumValue> aiSupportFirm;
     /// Adjustments that AI modes exclude. Element "AI/MutualExclusions".
     std::vector<s_MutualExclusion> mutualExclusions;
-    s_ControlModes whiteBalanceAuto;     ///< Automatic white balance. Element "WhiteBalance/Auto".
-    s_ControlModes whiteBalanceManual;   ///< White balance set by hand. Element "WhiteBalance/Manual".
-    s_ControlModes whiteBalanceAperture; ///< White balance by the aperture. Element "WhiteBalance/Aperture".
-    s_ControlModes exposureAuto;         ///< Automatic exposure. Element "ExposureControl/Auto".
-    s_ControlModes exposureManual;       ///< Exposure set by hand. Element "ExposureControl/Manual".
+    s_ControlModes whiteBalanceAuto;   ///< Automatic white balance. Element "WhiteBalance/Auto".
+    s_ControlModes whiteBalanceManual; ///< White balance set by hand. Element "WhiteBalance/Manual".
+    /// Aperture control that belongs to the white balance. Element "WhiteBalance/Aperture".
+    s_ControlModes whiteBalanceAperture;
+    s_ControlModes exposureAuto;   ///< Automatic exposure. Element "ExposureControl/Auto".
+    s_ControlModes exposureManual; ///< Exposure set by hand. Element "ExposureControl/Manual".
     /// Exposure with the shutter time given (shutter priority). Element "ExposureControl/Shutter".
     s_ControlModes exposureShutter;
     /// Exposure with the aperture given (aperture priority). Element "ExposureControl/Aperture".

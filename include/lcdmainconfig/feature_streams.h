@@ -14,8 +14,9 @@ namespace LCD::MainConfig {
 /// One allowed tally business value. Feature file, an "Enum" child of
 /// Features/Tally/Porotocol/TslUMDV5/BusinessStatus/PGM or PVW.
 struct s_TallyBusinessEnum {
-    int value = 0;        ///< State that the bus can report; the number is the panel's. Attribute "Value".
-    int defaultValue = 0; ///< Non-zero: the state lights the lamp from the factory. Attribute "Default".
+    int value = 0; ///< State that the bus can report; the number is the panel's. Attribute "Value".
+    /// Lamp that the state lights from the factory; the number is the panel's. Attribute "Default".
+    int defaultValue = 0;
 };
 
 /// Tally: lamps and displays that show which source is on air. Feature file, element Features/Tally; everything in it
@@ -80,7 +81,7 @@ struct s_Tally : s_SupportInfo {
     s_EnumField sceneType;
     /// Screen types whose pictures count as on air, by the types of the screen files. Element "ScreenType".
     s_EnumField screenType;
-    s_Value sameSourceLimitCount; ///< How often one source may be given a tally. Element "SameSourceLimitCount".
+    s_Value sameSourceLimitCount; ///< How many tallies one source may have. Element "SameSourceLimitCount".
     s_Protocol protocol; ///< Protocols by which the tally is sent. Element "Porotocol", spelled so in the file.
 };
 
@@ -174,13 +175,15 @@ struct s_RecodeSettingCfg : s_SupportInfo {
     s_Path recordPath;      ///< Folder of the recordings. Element "RecordPath".
     int warnCapacity = 300; ///< Free space below which the user is warned, 300 if absent. Element "WarnCapacity".
     int closeCapacity = 10; ///< Free space below which recording stops, 10 if absent. Element "CloseCapacity".
-    int maxCount = 2;       ///< Most recordings that may run at a time, 2 if absent. Element "MaxCount".
-    /// Length of one file of a recording; 1 if absent, which may lie below `timeDurationMin`. Element "TimeDuration".
+    /// Most recordings, 2 if absent; whether at a time or in all is the panel's matter. Element "MaxCount".
+    int maxCount = 2;
+    /// Duration of a recording; 1 if absent, which may lie below `timeDurationMin`. Element "TimeDuration".
     int timeDuration = 1;
-    /// Length of one file that a new recording starts with, 40 if absent. Element "DefaultTimeDuration".
+    /// Duration that a new recording starts with, 40 if absent. Element "DefaultTimeDuration".
     int defaultTimeDuration = 40;
-    int timeDurationMin = 2;    ///< Shortest length that can be set, 2 if absent. Attribute "Min" of "TimeDuration".
-    int timeDurationMax = 1440; ///< Longest length that can be set, 1440 if absent. Attribute "Max" of "TimeDuration".
+    int timeDurationMin = 2; ///< Shortest duration that can be set, 2 if absent. Attribute "Min" of "TimeDuration".
+    /// Longest duration that can be set, 1440 if absent. Attribute "Max" of "TimeDuration".
+    int timeDurationMax = 1440;
 };
 
 } // namespace LCD::MainConfig
