@@ -60,8 +60,8 @@ struct s_LayerType {
     /// How many of these can be in use at a time; 0: there is no "LayerCount". Attribute "Valid" of "LayerCount"; 1 if
     /// absent.
     int layerCountValid = 0;
-    /// Unit in which layers of the type are counted; the numbers are the panel's. "Support" and "Editable" are not
-    /// read. Element "Unit".
+    /// Units of measure for layers of the type; the numbers are the panel's. "Support" and "Editable" are not read.
+    /// Element "Unit".
     s_EnumField unit;
 };
 
