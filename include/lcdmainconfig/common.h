@@ -40,12 +40,12 @@ struct s_RangeValue : s_BaseAttr {
 
 /// One allowed value of an enumeration: the attribute "Value" of an "Enum" child.
 struct EnumValue {
-    int value = 0; ///< The allowed value, in the numbering of the setting that lists it.
+    int value = 0; ///< The allowed value, in the numbering of the setting that lists it. Attribute "Value".
 };
 
 /// One allowed value of an enumeration in the connector and subcard files.
 struct ConnectorEnumValue {
-    int value = 0; ///< The allowed value, in the numbering of the setting that lists it.
+    int value = 0; ///< The allowed value, in the numbering of the setting that lists it. Attribute "Value".
 };
 
 /// A setting with a list of allowed values.

@@ -18,7 +18,8 @@ struct s_ConnectorPlayer : s_SupportInfo {
     s_ConnectorValueList playFileType;
     /// Whether playing starts by itself; "DataType" is not read. Element "AutoPlayEnable".
     s_ConnectorValueList autoPlayEnable;
-    s_ConnectorValueList autoPlayEnableSecond; ///< Element "AutoPlayEnable" once more; the double is meant.
+    /// Repeats `autoPlayEnable`: element "AutoPlayEnable" is read once more, and the double is meant.
+    s_ConnectorValueList autoPlayEnableSecond;
     /// How long a still picture is shown, in milliseconds in the example; "DataType" is not read. Element
     /// "PicturePlayTime".
     s_RangeValue picturePlayTime;
@@ -35,7 +36,8 @@ struct s_ConnectorPlayer : s_SupportInfo {
 /// Image quality of one interface type. Connector file, child of ImageQuality; an entry without one of its elements is
 /// left out.
 struct s_InterfaceInImageQuality {
-    /// A setting for each colour. Of its own flags "Support" alone is read, of the colours' all but "Editable".
+    /// A setting for each colour. Connector file, elements Contrast and Brightness of an interface. Of its own flags
+    /// "Support" alone is read, of the colours' all but "Editable".
     struct s_RGB : s_SupportInfo {
         s_RangeValue r; ///< Red. Element "R".
         s_RangeValue g; ///< Green. Element "G".
@@ -61,6 +63,7 @@ struct s_ConnectorImageQuality : s_SupportInfo {
 /// Cropping of the picture. Connector file, element Crop.
 struct s_ConnectorCrop : s_SupportInfo {
     /// An edge or an extent of the crop as a part of the picture, from 0 to 1 once multiplied by the coefficient.
+    /// Connector file, elements XRatio, YRatio, WidthRatio and HeightRatio of Crop.
     struct s_Ratio : s_BaseAttr {
         /// How the panel bounds the value; the number is the panel's and never interpreted here. Attribute "RangeType".
         int rangeType = 0;
@@ -68,7 +71,7 @@ struct s_ConnectorCrop : s_SupportInfo {
         float coefficient = 1.0F;
     };
 
-    /// How many crops a picture may have.
+    /// How many crops a picture may have. Connector file, element MaxCount of Crop.
     struct s_MaxCount : s_BaseAttr {
         /// How the panel bounds the value; the number is the panel's and never interpreted here. Attribute "RangeType".
         int rangeType = 0;

@@ -67,7 +67,7 @@ struct s_ConnectorHorizontal : s_SupportInfo {
 
 /// The resolutions of one capacity mode of an interface. Connector file, element ResolutionRatios below CapacityMode.
 struct s_ResolutionRatios : s_SupportInfo {
-    /// The limits of a custom timing. Connector file, element ResolutionRatios/AdvResolutionRatio.
+    /// The limits of a custom timing. Connector file, element AdvResolutionRatio of ResolutionRatios.
     struct s_AdvResolutionRatio : s_SupportInfo {
         s_RangeValue refresh;             ///< Refresh rate, in hundredths of a hertz in the example. Element "Refresh".
         s_ConnectorHorizontal horizontal; ///< Limits of a line, in pixels. Element "Horizontal".

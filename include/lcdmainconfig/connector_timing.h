@@ -13,7 +13,8 @@ namespace LCD::MainConfig {
 /// The limits of one direction of a preset timing: pixels of a line where it is horizontal, lines of a frame where it
 /// is vertical. Connector file, element Horizontal or Vertical of an interface of PresetTiming.
 struct s_PresetHorizontal : s_SupportInfo {
-    /// The range of one timing number, in pixels or lines as the file gives it.
+    /// The range of one timing number, in pixels where it is horizontal and in lines where it is vertical. Connector
+    /// file, elements AddTime, FrontPorch, Sync and TotalTime of a direction.
     struct s_TimingItem : s_BaseAttr {
         int min = 0; ///< Fewest pixels or lines. Attribute "Min".
         int max = 0; ///< Most pixels or lines. Attribute "Max".

@@ -25,7 +25,7 @@ struct s_FuncFeatures {
     struct s_ScreenFeature : s_SupportInfo {
         /// Range of screen identifiers, 0 to 255 unless the file says otherwise; `value` stays 0. Element "ScreenId".
         s_RangeValue screenId;
-        /// Screen types, by which screen files are found: 1 wall, 2 multi-view, 3 auxiliary in the example; `value`
+        /// Screen types, by the numbers of the screen files: 1 wall, 2 multi-view, 3 auxiliary in the example; `value`
         /// stays 0. Element "ScreenType".
         s_EnumField screenType;
     };
@@ -42,7 +42,8 @@ struct s_FuncFeatures {
     s_SupportInfo hdcp;     ///< Whether the device can protect its outputs by HDCP. Element "HDCP".
     /// Conversion between standard and high dynamic range. Element "DynamicRangConversion".
     s_DynamicRangConversion dynamicRangConversion;
-    s_BaseAttr dynamicRang; ///< Dynamic range of the device; the numbers are the panel's. Element "DynamicRang".
+    /// Dynamic range that the device works in, standard or high; the numbers are the panel's. Element "DynamicRang".
+    s_BaseAttr dynamicRang;
     /// Interfaces that can be mapped, and their test pattern. Element "InterfaceMapping".
     s_InterfaceMapping interfaceMapping;
     s_CutoutPos cutoutPos;         ///< How the place of a cut-out is given. Element "CutoutPos".
@@ -100,9 +101,10 @@ struct s_DeviceFeature {
     std::uint64_t connectorPluginMode = 1;
     /// Short name of the product series, UTF-8; empty: the file names none. Attribute "SeriesShortName".
     std::string seriesShortName;
-    /// Name of the device, UTF-8; empty: the file names none, "system1": no file was read. Attribute "Name".
+    /// Name that the device bears from the factory, UTF-8; empty: the file names none, "system1": no file was read.
+    /// Attribute "Name".
     std::string name = "system1";
-    std::string brand; ///< Brand of the device, UTF-8; empty: the file names none. Attribute "Brand".
+    std::string brand; ///< Brand that the panel shows, UTF-8; empty: the file names none. Attribute "Brand".
     /// Name of the panel's picture of the device, UTF-8; empty: the file names none. Attribute "Icon" of "TypeName".
     std::string icon;
     std::string typeNameEn;      ///< English model name, UTF-8; empty: the file gives none. Element "TypeName/en".
@@ -111,7 +113,7 @@ struct s_DeviceFeature {
     s_General general;           ///< Limits of the device's name, and its status. Element "General".
     s_Networks networks;         ///< Network port. Element "NetWorks".
     s_ProjectFile projectFile;   ///< Project files: where they are, and what they may contain. Element "ProjectFile".
-    s_File file;                 ///< Limits of files. Element "File".
+    s_File file; ///< Limits of the files that the device takes, such as pictures and logos. Element "File".
     /// Device modes, the keys of what screens and cards offer: 1 standard, 2 4K in the example. Element "DeviceModes".
     s_EnumField deviceModes;
     s_TypeChoice powerCtrl;         ///< Power control: 0 off, 1 on, 2 restart in the example. Element "PowerCtrl".
@@ -127,7 +129,7 @@ struct s_DeviceFeature {
     s_LayerAlphaFunction layerAlphaFunction;
     s_Preset preset;                ///< How many presets there may be. Element "Preset".
     s_MOSAICSource mosaicSource;    ///< Mosaic inputs and their templates. Element "MosaicSource".
-    s_PushStreamSetting pushStream; ///< Pushing of streams. Element "Features/PushStream".
+    s_PushStreamSetting pushStream; ///< Streams that the device sends to the network. Element "Features/PushStream".
     s_SoundConsole soundConsole;    ///< Audio modes of the mixing console. Element "SoundConsole".
     /// Whether the device has custom functions, which the panel knows; not supported unless the file says so. Element
     /// "Custom".

@@ -32,14 +32,15 @@ struct s_AudioMode {
         std::vector<s_InterfaceObj> interfaceObjs;
     };
 
-    int value = 0;           ///< Number of the mode. Attribute "Value".
+    int value = 0;           ///< Number by which the panel chooses the mode. Attribute "Value".
     s_SourceInfo sourceInfo; ///< Sources that the mode mixes. Element "SourceInfo".
     s_EnumField overdub;     ///< Overdub: sound is laid over what is already mixed. Element "Overdub".
     s_EnumField solo;        ///< Solo: one source is heard alone. Element "Solo".
     /// Level of the signal; `step` may have a fraction, `dataType` stays 0. Element "ElectricalLevel".
     s_RangeValue electricalLevel;
     s_RangeValue gain; ///< Amplification of a source; `step` may have a fraction, `dataType` stays 0. Element "Gain".
-    s_EnumField separation; ///< Separation of the audio channels; the numbers are the panel's. Element "Separation".
+    /// How far the audio channels are kept apart; the numbers are the panel's. Element "Separation".
+    s_EnumField separation;
     /// Delay of the sound against the picture; `step` may have a fraction, `dataType` stays 0. Element "Delay".
     s_RangeValue delay;
 };
@@ -54,12 +55,13 @@ struct s_DeviceFeatureAudio : s_SupportInfo {
     };
 
     s_SupportInfo audioMatrix; ///< Whether audio can be routed from any input to any output. Element "AudioMatrix".
-    s_AudioDante audioDante;   ///< Audio over the network by Dante. Element "AudioDante".
-    s_SupportInfo audioEdit;   ///< Whether audio can be edited. Element "AudioEdit".
-    s_BaseAttr inputEdit;      ///< Editing of the audio of inputs. Element "AudioEdit/InputEdit".
-    /// Kinds of edit on inputs; the numbers are the panel's. Element "AudioEdit/InputEdit/EditType".
+    s_AudioDante audioDante;   ///< Whether the device has Dante, audio over the network. Element "AudioDante".
+    s_SupportInfo audioEdit;   ///< Whether the sound of inputs and outputs can be set. Element "AudioEdit".
+    /// Whether the sound of inputs can be set, and what it starts with. Element "AudioEdit/InputEdit".
+    s_BaseAttr inputEdit;
+    /// What can be set on the sound of an input; the numbers are the panel's. Element "AudioEdit/InputEdit/EditType".
     s_EnumField editType;
-    s_SupportInfo outputEdit; ///< Whether the audio of outputs can be edited. Element "AudioEdit/OutputEdit".
+    s_SupportInfo outputEdit; ///< Whether the sound of outputs can be set. Element "AudioEdit/OutputEdit".
     /// Switches the audio that accompanies a picture on and off. Element "AudioEdit/OutputEdit/AccompanyAudioEnable".
     s_EnumField accompanyAudioEnable;
     /// Pairing of analogue audio with a picture; the number is the panel's. Element "AudioEdit/OutputEdit/AnalogVideo".

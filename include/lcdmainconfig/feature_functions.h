@@ -84,7 +84,7 @@ struct s_General : s_SupportInfo {
     /// Limits of the length of the device's name, 0 to 255 unless the file says otherwise. Read from "General" and not
     /// from its child "Name", which is required: this is meant.
     s_RangeValue name;
-    s_EnumField status; ///< Status of the device; the numbers are the panel's. Element "Status".
+    s_EnumField status; ///< States that the device can be in; the numbers are the panel's. Element "Status".
 };
 
 } // namespace LCD::MainConfig

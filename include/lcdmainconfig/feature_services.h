@@ -101,7 +101,7 @@ struct s_Upgrade : s_SupportInfo {
     s_EnumField type;       ///< What can be upgraded. Element "Type".
     s_EnumField reboot;     ///< Whether the device restarts after an upgrade. Element "Reboot".
     s_EnumField deleteFile; ///< Whether the upgrade file is deleted afterwards. Element "DeleteFile".
-    s_Cards cards;          ///< Upgrade of the cards. Element "Cards".
+    s_Cards cards;          ///< What of the cards can be upgraded, and whether at all. Element "Cards".
 };
 
 } // namespace LCD::MainConfig

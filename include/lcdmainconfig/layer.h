@@ -118,7 +118,7 @@ struct s_LayerCutFill {
 
     s_SupportInfo info;  ///< Whether the cut part can be filled. The element's own flags.
     s_EnumField enable;  ///< Switches the filling on and off. Element "Enable".
-    s_Curve curve;       ///< Curve of the filling. Element "Curve".
+    s_Curve curve;       ///< Curve along which the filling runs. Element "Curve".
     s_Relative relative; ///< Area that the filling refers to. Element "Relative".
 };
 
@@ -230,7 +230,7 @@ struct s_Layer {
     s_EnumField sceneType;
     s_RangeValue zOrder;      ///< Place in the stack of layers; "Step" is not read. Element "ZOrder".
     s_EnumField selected;     ///< Whether the layer is selected for editing. Element "Selected".
-    s_LayerGeneral general;   ///< Name of a layer. Element "General".
+    s_LayerGeneral general;   ///< Name that a new layer gets, and its limits. Element "General".
     s_EnumField isBackground; ///< Whether the layer lies behind all others as the background. Element "IsBackground".
     s_EnumField isFreeze;     ///< Freeze: whether the layer holds its last picture. Element "IsFreeze".
     s_EnumField isMonochrome; ///< Whether the layer is shown in shades of one colour. Element "IsMonochrome".

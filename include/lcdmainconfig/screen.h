@@ -202,7 +202,7 @@ struct s_Features {
     struct s_ScreenGeneral : s_SupportInfo {
         /// A text that numbers are put behind; not kept from any file.
         struct s_PrefixedText : s_TextValue {
-            std::string prefix; ///< What the names of screens start with, UTF-8; always empty.
+            std::string prefix; ///< Text that the names of new screens start with, UTF-8; always empty.
         };
 
         s_PrefixedText name;    ///< Name that a new screen gets.

@@ -117,7 +117,7 @@ struct s_DeviceModeInfo {
 struct s_CapacityInfo {
     std::string name; ///< Name of the capacity, UTF-8; empty: the file names none. Attribute "Name".
     int enable = 0;   ///< Non-zero: connectors can be copied in this capacity. Attribute "Enable".
-    int value = 0;    ///< Number of the capacity. Attribute "Value".
+    int value = 0;    ///< Number of the capacity that the copies are for; no query looks at it. Attribute "Value".
     std::vector<s_DeviceModeInfo> deviceModes; ///< Copy groups of each device mode, in file order.
 };
 

@@ -70,8 +70,8 @@ struct s_CapacityInConnectorsDeviceModeCapacitys {
     std::vector<s_ConnectorInConnectorsDeviceModeCapacitysCapacity> connectors;
 };
 
-/// The range of one timing number, in pixels where it is horizontal and in lines where it is vertical. All 0 when the
-/// element is missing.
+/// The range of one timing number, in pixels where it is horizontal and in lines where it is vertical. Card file, below
+/// ResolutionRatio and AdvResolutionRatio of Connectors/DeviceMode/Timing; all 0 when the element is missing.
 struct s_WidthInConnectorsDeviceModeTiming {
     int support = 0; ///< Non-zero: the number can be set. Attribute "Support".
     int value = 0;   ///< Number that the timing starts with. Attribute "Value".
@@ -81,7 +81,7 @@ struct s_WidthInConnectorsDeviceModeTiming {
 };
 
 /// The ranges of one direction of a custom timing: pixels of a line where it is horizontal, lines of a frame where it
-/// is vertical.
+/// is vertical. Card file, element Horizontal or Vertical of AdvResolutionRatio.
 struct s_HorizontalInConnectorsDeviceModeTiming {
     s_WidthInConnectorsDeviceModeTiming addTime; ///< Active part: what is seen of the picture. Element "AddTime".
     /// Whole line or frame: active part, front porch, sync and back porch. Element "TotalTime".
