@@ -54,8 +54,8 @@ struct s_ResolutionRatio : s_SupportInfo {
 };
 
 /// The limits of one direction of a custom timing: pixels of a line where it is horizontal, lines of a frame where it
-/// is vertical. Connector file, element Horizontal or Vertical of AdvResolutionRatio; of its children "Min" and "Max"
-/// alone are read.
+/// is vertical. Connector file, element Horizontal or Vertical of AdvResolutionRatio; "Min" and "Max" of each child.
+/// The flags come from "Horizontal"; for "Vertical" none are read, and they keep their defaults.
 struct s_ConnectorHorizontal : s_SupportInfo {
     s_RangeValue addTime; ///< Active part: what is seen of the picture. Element "AddTime".
     /// Front porch: blanking between the active part and the sync pulse. Element "FrontPorch".
