@@ -12,10 +12,10 @@
 
 namespace LCD::MainConfig {
 
-/// Entries are told as section/entry. With the store open, an entry that is absent or not a number reads as 0, a text
-/// as empty; "No store" tells what a getter gives before readConfig has found the file. A setter ends with a flush of
-/// the operating system's files, which is its cost, and reports no failure; unless told otherwise it must not be called
-/// without a store. Any thread may call, where no exception is told.
+/// The factory settings of the panel. Entries are told as section/entry. With the store open, an entry that is absent
+/// or not a number reads as 0, a text as empty; "No store" tells what a getter gives before readConfig has found the
+/// file. A setter ends with a flush of the operating system's files, which is its cost, and reports no failure; unless
+/// told otherwise it must not be called without a store. Any thread may call, where no exception is told.
 class ILcdConfig {
 public:
     virtual ~ILcdConfig() = default;

@@ -14,11 +14,10 @@
 
 namespace LCD::MainConfig {
 
-/// Entries are told as section/entry. With the store open, an entry that is absent or not a number reads as 0, a text
-/// as empty, unless told otherwise; "No store" tells what a getter gives before readConfig has opened the file. A
-/// getter that seeds the file is const all the same: the file is not the object's state. A setter ends with a flush to
-/// the storage, which is its cost, reports no failure, and must not be called without a store. Any thread may call,
-/// where no exception is told.
+/// The user's settings of the panel. Entries are told as section/entry. With the store open, an entry that is absent or
+/// not a number reads as 0, a text as empty, unless told otherwise; "No store" tells what a getter gives before
+/// readConfig has opened the file. A setter ends with a flush to the storage, which is its cost, reports no failure,
+/// and must not be called without a store. Any thread may call, where no exception is told.
 class ILcdLanguageConfig {
 public:
     virtual ~ILcdLanguageConfig() = default;
