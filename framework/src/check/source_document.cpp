@@ -26,17 +26,18 @@ QDomDocument Source::toDocument(std::vector<QDomElement>* placed) const
     for (size_t i = 0; i < _elements.size(); ++i) {
         const Element& element = _elements[i];
         textsBefore(int(i));
-        QDomNode parent = document;
-        if (element.parent >= 0) parent = built[size_t(element.parent)];
+        const bool isRoot = i == 0;
+        const QDomElement parent = isRoot || element.parent < 0 ? QDomElement() : built[size_t(element.parent)];
         depths[i] = element.parent < 0 ? 1 : depths[size_t(element.parent)] + 1;
-        if (parent.isNull() || depths[i] > DEEPEST_NESTING || (element.parent < 0 && i > 0)) continue;
+        if (depths[i] > DEEPEST_NESTING || (parent.isNull() && !isRoot)) continue;
         built[i] = document.createElementNS(QString(), tag(element));
         for (const Attribute& attribute : attributes(element)) {
             const QString name = slice(attribute.name).toString();
             if (name != QLatin1String("xmlns") && !name.startsWith(QLatin1String("xmlns:")))
                 built[i].setAttributeNS(QString(), name, value(attribute));
         }
-        parent.appendChild(built[i]);
+        // The document itself is null until it has created something.
+        QDomNode(isRoot ? QDomNode(document) : QDomNode(parent)).appendChild(built[i]);
     }
     textsBefore(int(_elements.size()));
     if (placed != nullptr) *placed = std::move(built);
