@@ -29,10 +29,10 @@ Value valueOf(const HeardFile& file, int element, const HeardAttribute& asked)
 
 QString CollectedFile::pathOf(int element) const
 {
-    QString path;
+    QString tagPath;
     for (int at = element; at >= 0; at = parents[std::size_t(at)])
-        path.prepend(path.isEmpty() ? tags[std::size_t(at)] : tags[std::size_t(at)] + '/');
-    return path;
+        tagPath.prepend(tagPath.isEmpty() ? tags[std::size_t(at)] : tags[std::size_t(at)] + '/');
+    return tagPath;
 }
 
 bool CollectedFile::isWithin(int element, int ancestor) const

@@ -71,10 +71,10 @@ QString HeardFile::tagOf(int element) const
 
 QString HeardFile::pathOf(int element) const
 {
-    QString path;
+    QString tags;
     for (int at = element; at >= 0; at = source.elements()[std::size_t(at)].parent)
-        path.prepend(path.isEmpty() ? tagOf(at) : tagOf(at) + '/');
-    return path;
+        tags.prepend(tags.isEmpty() ? tagOf(at) : tagOf(at) + '/');
+    return tags;
 }
 
 // --- Files

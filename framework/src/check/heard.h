@@ -6,6 +6,7 @@
 #include "source.h"
 
 #include "reading/document.h"
+#include "reading/xmlparse.h"
 
 #include <QHash>
 
