@@ -146,7 +146,7 @@ void TestCheckTell::sarif()
     QStringList locations;
     for (const QJsonValue result : run["results"].toArray()) {
         QCOMPARE(rules[result["ruleIndex"].toInt()]["id"], result["ruleId"]);
-        const QJsonValue place = result["locations"].toArray()[0]["physicalLocation"];
+        const QJsonValue place = result["locations"].toArray().at(0)["physicalLocation"];
         const QJsonValue file = place["artifactLocation"];
         locations << file["uriBaseId"].toString() + ' ' + file["uri"].toString() + ' ' +
                          QString::number(place["region"]["endColumn"].toInt());
@@ -281,7 +281,7 @@ void TestCheckTell::ends_data()
     QTest::newRow("found, but not to fail on") << "BROKEN --fail-on never" << 0 << "";
     QTest::newRow("found, but not asked for") << "--only=missing-card,unknown-key BROKEN" << 0 << "";
     QTest::newRow("nothing") << "" << 2 << "nothing to check";
-    QTest::newRow("not there") << "BROKEN.xm" << 2 << "did you mean";
+    QTest::newRow("not there") << "BROKEN/menu/menuconfig.xm" << 2 << "did you mean";
     QTest::newRow("no root") << EXAMPLES_PATH << 2 << "no configuration root";
     QTest::newRow("option") << "--formt json BROKEN" << 2 << "did you mean '--format'?";
     QTest::newRow("option for a command") << "watch" << 2 << "did you mean '--watch'?";
@@ -302,9 +302,9 @@ void TestCheckTell::ends()
     QFETCH(int, status);
     QFETCH(QString, complaint);
     const Folder root;
-    const QString broken = root.write("menu/menuconfig.xml", "<LCD");
+    root.write("menu/menuconfig.xml", "<LCD");
     QProcess shell;
-    shell.start("sh", {"-c", "'" LCDCHECK_PATH "' " + arguments.replace("BROKEN", broken)});
+    shell.start("sh", {"-c", "'" LCDCHECK_PATH "' " + arguments.replace("BROKEN", root.path())});
     QVERIFY(shell.waitForFinished());
     const QString complaints = QString::fromUtf8(shell.readAllStandardError());
     QVERIFY2(complaint.isEmpty() ? complaints.isEmpty() : complaints.contains(complaint), qPrintable(complaints));

@@ -277,6 +277,7 @@ QStringList helpPage(const std::vector<Mode>& modes)
     for (const Mode& mode : modes) {
         QString usage = "lcdcheck";
         if (*mode.option) usage += QStringLiteral(" --") + mode.option;
+        if (mode.letter) usage += QStringLiteral(", -") + mode.letter;
         if (mode.value) usage += QStringLiteral(" ") + mode.value;
         lines.append("  " + lcdcommon::padded(usage + (mode.checks ? " [options] ROOT|FILE..." : ""), 42) + mode.help);
     }
