@@ -45,8 +45,8 @@ struct s_ResolutionRatio : s_SupportInfo {
     float coefficient = 1.0F; ///< Attribute "Coefficient" of "RefreshRate".
 };
 
-/// The limits of one direction of a custom timing, horizontal and vertical alike: flags from the direction, "Min" and
-/// "Max" from each child.
+/// The limits of one direction of a custom timing: "Min" and "Max" from each child. The flags come from "Horizontal";
+/// for "Vertical" none are read, and they keep their defaults.
 struct s_ConnectorHorizontal : s_SupportInfo {
     s_RangeValue addTime; ///< Active part.
     s_RangeValue frontPorch;

@@ -27,17 +27,17 @@ public:
     /// Writes ReturnToHomeSetting/ReturnToHomeValue.
     virtual void setReturnToHomeTime(int value) = 0;
     /// ReturnToHomeSetting/ReturnToHomeValue; no unit is fixed here. No store: 0.
-    virtual int getReturnToHomeTime() const = 0;
+    virtual int getReturnToHomeTime() = 0;
 
     /// Factory table: "Status" of the first row of the array PgmEditStatusSetting with that "WorkMode". No such row:
     /// -1. No store: -1, with a warning.
-    virtual int getPgmEditStatusOnWorkMode(int workMode) const = 0;
+    virtual int getPgmEditStatusOnWorkMode(int workMode) = 0;
     /// Factory table: work mode to status, from the array PgmEditStatusSetting; of a repeated work mode the first row
     /// counts. No rows: empty. No store: empty, with a warning.
-    virtual std::map<int, int> getPgmEditStatus() const = 0;
+    virtual std::map<int, int> getPgmEditStatus() = 0;
     /// "Status" of the first row of the array PgmEditStatusCurrent with that "WorkMode". No such row: -1. No store: -1,
     /// with a warning.
-    virtual int getCurrentPgmEditStatus(int workMode) const = 0;
+    virtual int getCurrentPgmEditStatus(int workMode) = 0;
     /// Writes "Status" of the first row of PgmEditStatusCurrent with that "WorkMode"; no row is ever added. No store: a
     /// warning, nothing written.
     virtual void setCurrentPgmEditStatus(int workMode, int status) = 0;
@@ -53,92 +53,92 @@ public:
     /// Writes FnSetting/FnValue<index> for every function button from 0, each with a flush of its own.
     virtual void setALLFnSettingValue(int value) = 0;
     /// FnSetting/FnValue<index>: the binding of a function button. No store: 0.
-    virtual int getFnSettingValue(int index) const = 0;
+    virtual int getFnSettingValue(int index) = 0;
 
     /// Writes UserModeSetting/UserModeValue.
     virtual void setUserModeSettingValue(int value) = 0;
     /// UserModeSetting/UserModeValue. No store: 0.
-    virtual int getUserModeSettingValue() const = 0;
+    virtual int getUserModeSettingValue() = 0;
 
     /// Writes DevSetting/LockStatusValue.
     virtual void setDevLockStatusValue(int value) = 0;
     /// DevSetting/LockStatusValue. No store: 0.
-    virtual int getDevLockStatusValue() const = 0;
+    virtual int getDevLockStatusValue() = 0;
 
     /// Writes LightOnSetting/SupportValue.
     virtual void setLightOnSupportValue(int value) = 0;
     /// LightOnSetting/SupportValue. No store: 0.
-    virtual int getLightOnSupportValue() const = 0;
+    virtual int getLightOnSupportValue() = 0;
 
     /// Writes LanguageSetting/LanguageValue.
     virtual void setLanguage(const QString& language) = 0;
     /// LanguageSetting/LanguageValue. No store: empty.
-    virtual QString getLanguage() const = 0;
+    virtual QString getLanguage() = 0;
     /// LanguageSetting/LanguageDefault: the language as delivered. No store: empty.
-    virtual QString getDefaultLanguage() const = 0;
+    virtual QString getDefaultLanguage() = 0;
 
     /// Writes LightBreathSetting/BreathSupportValue.
     virtual void setLightBreathSupportValue(int value) = 0;
     /// LightBreathSetting/BreathSupportValue. No store: 0.
-    virtual int getLightBreathSupportValue() const = 0;
+    virtual int getLightBreathSupportValue() = 0;
 
     /// Writes LightColorSetting/LightColor.
     virtual void setLightColorValue(int value) = 0;
     /// LightColorSetting/LightColor. No store: 0.
-    virtual int getLightColorValue() const = 0;
+    virtual int getLightColorValue() = 0;
 
     /// Writes AspectRatioSetting/AspectRatio.
     virtual void setAspectRatioValue(int value) = 0;
     /// AspectRatioSetting/AspectRatio. No store: 0.
-    virtual int getAspectRatioValue() const = 0;
+    virtual int getAspectRatioValue() = 0;
 
     /// KeySamplingSetting/KeySampling. No store: 0.
-    virtual int getKeySamplingTime() const = 0;
+    virtual int getKeySamplingTime() = 0;
     /// KeySenderIpSetting/KeySenderIp. No store: "192.168.0.55".
-    virtual QString getKeySenderIp() const = 0;
+    virtual QString getKeySenderIp() = 0;
     /// UISetting/SupportPartition. No store: 0.
-    virtual int getUISupportPartition() const = 0;
+    virtual int getUISupportPartition() = 0;
     /// TitleSetting/SupportCenter. No store: 0.
-    virtual int getTitleSupportCenter() const = 0;
+    virtual int getTitleSupportCenter() = 0;
     /// HttpPortSetting/HttpPort. No store: 19999.
-    virtual int getHttpPort() const = 0;
+    virtual int getHttpPort() = 0;
     /// WebSocketPortSetting/WebSocketPort. No store: 19999.
-    virtual int getWebSocketPort() const = 0;
+    virtual int getWebSocketPort() = 0;
     /// SupprotMenuHideSetting/SupprotMenuHide, spelt so in the file. No store: 0.
-    virtual int getSupprotMenuHide() const = 0;
+    virtual int getSupprotMenuHide() = 0;
     /// PlaySupportConnectorType/ConnectorTypeValue. No store: 0.
-    virtual int getPlaySupportConnectorType() const = 0;
+    virtual int getPlaySupportConnectorType() = 0;
     /// "ConnectorType" of every row of the array InputListNoSupportConnectorTypeSetting: what the input list leaves
     /// out. No rows: empty. No store: empty, with a warning.
-    virtual std::vector<int> getInputListNoSupportConnectorType() const = 0;
+    virtual std::vector<int> getInputListNoSupportConnectorType() = 0;
     /// SupprotCapacityDisplaySettting/SupprotCapacityDisplay, spelt so in the file. No store: 0.
-    virtual int getSupprotLSourceCapacityDisplay() const = 0;
+    virtual int getSupprotLSourceCapacityDisplay() = 0;
     /// ScreenWidthSetting/ScreenWidth. No store: 480.
-    virtual int getScreenWidth() const = 0;
+    virtual int getScreenWidth() = 0;
     /// DeviceRelativePath/RelativeStoragePath. No store: empty.
-    virtual QString getDeviceRelativePath() const = 0;
+    virtual QString getDeviceRelativePath() = 0;
     /// CompanyMail/CompanyMailDefault. No store: empty.
-    virtual QString getCompanyMailDefault() const = 0;
+    virtual QString getCompanyMailDefault() = 0;
     /// CompanyAddress/CompanyAddressDefault. No store: empty. Takes no lock, which is meant.
-    virtual QString getCompanyAddressDefault() const = 0;
+    virtual QString getCompanyAddressDefault() = 0;
     /// LcdWidget/SwitchBackground. No store: empty. Takes no lock, which is meant.
-    virtual QString getSwitchBackGround() const = 0;
+    virtual QString getSwitchBackGround() = 0;
     /// SupportAssessSettting/SupportAssess, spelt so in the file. No store: 0.
-    virtual int getSupportAssess() const = 0;
+    virtual int getSupportAssess() = 0;
     /// Upgrade/SupportUpgradeWaitingDlg: the waiting dialog of an upgrade. No store: 0.
-    virtual int getSupportUpgradeWaitDlg() const = 0;
+    virtual int getSupportUpgradeWaitDlg() = 0;
     /// ScaleSettting/SupportScale, spelt so in the file. No store: 1.
-    virtual int getSupportScale() const = 0;
+    virtual int getSupportScale() = 0;
     /// DomesticDevice/DomesticDevice. No store: 1.
-    virtual int getDomesticDevice() const = 0;
+    virtual int getDomesticDevice() = 0;
     /// UsbKeyboard/SupportUsbKeyboard. No store: 0.
-    virtual int getSupportUsbKeyboard() const = 0;
+    virtual int getSupportUsbKeyboard() = 0;
     /// OffColorSetting/OffLightColor, then OffColorSetting/LightColorBrightness. No store: (7, 25).
-    virtual std::pair<int, int> getOffLightColorValue() const = 0;
+    virtual std::pair<int, int> getOffLightColorValue() = 0;
 
     /// Whether the array SourceTypeUseGeneralNameSetting has a row with both "InterfaceType" and "ConnectorType". No
     /// store: false, with a warning.
-    virtual bool isSourceTypeUseGeneralName(int interfaceType, int connectorType) const = 0;
+    virtual bool isSourceTypeUseGeneralName(int interfaceType, int connectorType) = 0;
 };
 
 } // namespace LCD::MainConfig

@@ -39,23 +39,12 @@ bool Use::operator==(const Use& other) const
     return kind == other.kind && readDefault == other.readDefault && field == other.field;
 }
 
-const Use& Attribute::main() const
-{
-    const auto stores = [](const Use& use) { return use.kind != reading::Kind::Presence; };
-    const auto found = std::find_if(uses.begin(), uses.end(), stores);
-    return found != uses.end() ? *found : uses.front();
-}
-
-bool Attribute::isPresenceAsked() const
-{
-    return std::any_of(uses.begin(), uses.end(), [](const Use& use) { return use.kind == reading::Kind::Presence; });
-}
-
 std::optional<reading::OnNull> Element::cost() const
 {
     // The enumeration goes from the highest cost to the lowest.
-    const auto highest = std::min_element(costs.begin(), costs.end());
-    return highest != costs.end() ? std::optional(*highest) : std::nullopt;
+    const auto highest = std::min_element(lookUps.begin(), lookUps.end(),
+                                          [](const LookUp& one, const LookUp& other) { return one.cost < other.cost; });
+    return highest != lookUps.end() ? std::optional(highest->cost) : std::nullopt;
 }
 
 bool Element::isRequired() const

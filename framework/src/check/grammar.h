@@ -45,13 +45,10 @@ struct Condition {
 
 struct Attribute {
     QString name;          ///< Empty for the content of an element.
-    std::vector<Use> uses; ///< In the order of the asking; never empty.
+    std::vector<Use> uses; ///< In the order of the asking; empty where only its presence counts.
     std::optional<Condition> condition;
 
-    /// The use that stores the text; the one that asks only for its presence when there is no other.
-    [[nodiscard]] const Use& main() const;
-    /// Whether something depends on it being there, other than its own value.
-    [[nodiscard]] bool isPresenceAsked() const;
+    bool presenceAsked = false; ///< Whether something else depends on it being there.
 };
 
 /// How an element is come to.
@@ -60,6 +57,16 @@ struct Visit {
     QString tag; ///< That of the walk; empty where every tag belongs there.
 
     bool operator==(const Visit& other) const { return walk == other.walk && tag == other.tag; }
+};
+
+struct Element;
+
+/// A look-up of the first child of a tag.
+struct LookUp {
+    reading::OnNull cost;
+    const Element* scope; ///< The element of which nothing more is read where the absence is a failure; null: the file.
+
+    bool operator==(const LookUp& other) const { return cost == other.cost && scope == other.scope; }
 };
 
 struct Element {
@@ -71,7 +78,7 @@ struct Element {
     std::vector<std::unique_ptr<Element>> children;
     const Element* sameAs = nullptr; ///< The element above that it repeats, with all that stands below; it has none.
 
-    std::vector<reading::OnNull> costs; ///< Of each look-up by tag that finds it as the first child.
+    std::vector<LookUp> lookUps;        ///< By tag, each of which finds it as the first child.
     std::vector<Visit> visits;          ///< Of each list of which it is an entry.
     bool presenceAsked = false;         ///< Whether something else depends on it being there.
     bool refused = false;               ///< Its presence is what is an error.

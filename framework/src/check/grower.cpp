@@ -47,6 +47,7 @@ void Grower::prepare(const QString& trial)
     _trial = trial;
     _placing.clear();
     _records.clear();
+    _scopes.clear();
     _strayed.clear();
     for (Element* const element : _elements) element->refused = false;
     setAttributes(fed.documentElement(), trial);
@@ -63,8 +64,14 @@ void Grower::setAttributes(QDomElement element, const QString& trial)
         else
             element.setAttribute(attribute.name, trial);
     }
-    for (QDomElement below = element.firstChildElement(); !below.isNull(); below = below.nextSiblingElement())
-        setAttributes(below, trial);
+    for (QDomElement below = element.firstChildElement(); !below.isNull();) {
+        QDomElement current = std::exchange(below, below.nextSiblingElement());
+        const bool isGone = _elements[current.attributeNode(MARK).value().toUInt()]->tag.isEmpty();
+        if (isGone)
+            element.removeChild(current);
+        else
+            setAttributes(current, trial);
+    }
 }
 
 QStringList Grower::trialsOf(const Element& element, const QString& attribute) const
@@ -122,6 +129,22 @@ QDomElement Grower::put(const QDomElement& parent, Element& child)
     return element;
 }
 
+Attribute& Grower::attributeOf(Element& element, const QString& name)
+{
+    auto& attributes = element.attributes;
+    const auto found = std::find_if(attributes.begin(), attributes.end(),
+                                    [&](const Attribute& attribute) { return attribute.name == name; });
+    if (found != attributes.end()) return *found;
+    ++_known;
+    return attributes.emplace_back(Attribute{name, {}, false, {}});
+}
+
+bool Grower::attributeTested(const QDomElement& element, const QString& name, bool /*found*/)
+{
+    if (Element* const grown = of(element)) attributeOf(*grown, name).presenceAsked = true;
+    return true;
+}
+
 void Grower::asked(const QDomElement& element, const Asked& asked)
 {
     Element* const grown = of(element);
@@ -132,23 +155,28 @@ void Grower::asked(const QDomElement& element, const Asked& asked)
         if (addTo(grown->content->uses, use)) ++_known;
         return;
     }
-    auto& attributes = grown->attributes;
-    auto found = std::find_if(attributes.begin(), attributes.end(),
-                              [&](const Attribute& attribute) { return attribute.name == asked.name; });
-    if (found == attributes.end()) found = attributes.insert(found, {asked.name, {}, {}});
-    if (addTo(found->uses, use)) ++_known;
+    if (addTo(attributeOf(*grown, asked.name).uses, use)) ++_known;
     QStringList& trials = _trials[grown->path() + '@' + asked.name];
     if (!trials.contains(_trial)) trials.append(_trial);
 }
 
-QDomElement Grower::child(const QDomElement& parent, const QString& tag, OnNull cost, const QDomElement& found)
+QDomElement Grower::child(const QDomElement& parent, const QString& tag, OnNull cost, const bool* scope,
+                          const QDomElement& found)
 {
     Element* const grown = of(parent);
     // Beside the way, any element will do to get on.
     if (grown == nullptr) return found.isNull() ? fed.createElement(tag) : found;
     Element& child = childOf(*grown, tag);
-    if (addTo(child.costs, cost)) ++_known;
+    const auto lost = _scopes.find(scope);
+    if (addTo(child.lookUps, {cost, lost != _scopes.end() ? lost->second : nullptr})) ++_known;
     return put(parent, child);
+}
+
+void Grower::scopeBegins(const bool* scope, const QDomElement& element)
+{
+    const Element* const grown = of(element);
+    // What ends the reading of the root ends that of the file.
+    _scopes[scope] = grown != _root.get() ? grown : nullptr;
 }
 
 void Grower::childTested(const QDomElement& parent, const QString& tag, bool /*found*/)
@@ -162,19 +190,20 @@ void Grower::childTested(const QDomElement& parent, const QString& tag, bool /*f
 
 bool Grower::contentTested(const QDomElement& /*element*/, bool /*found*/) { return true; }
 
-void Grower::tagTested(const QDomElement& element, const QString& tag, bool is)
+bool Grower::tagTested(const QDomElement& element, const QString& tag, bool is)
 {
     Element* const grown = of(element);
-    if (grown == nullptr || !grown->anyTag || is) return;
+    if (grown == nullptr || !grown->anyTag || is) return is;
     // The tags tell several kinds of entry apart: each of them takes the place of the one for every tag. Of a list that
     // has a single entry, the kind of file is that one's.
     const Visit visit = grown->visits.front();
-    if (visit.walk == Walk::First && tag != infoOf(_kind).content) return;
+    if (visit.walk == Walk::First && tag != infoOf(_kind).content) return is;
     Element& alternative = childOf(*const_cast<Element*>(grown->parent), tag);
     addTo(alternative.visits, visit);
     QDomNode parent = element.parentNode();
     grown->tag.clear();
     put(parent.toElement(), alternative);
+    return is;
 }
 
 void Grower::walked(const QDomElement& parent, Walk walk, const QString& tag)
@@ -195,7 +224,7 @@ void Grower::visited(const QDomElement& element, Walk walk, const QString& tag)
     _records.erase(grown);
 }
 
-bool Grower::failed(const QDomElement& element, const QString& tag)
+bool Grower::failed(const QDomElement& element, const QString& tag, const bool* /*scope*/)
 {
     Element* const grown = of(element);
     if (grown == nullptr) return true;

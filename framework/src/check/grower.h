@@ -28,20 +28,23 @@ public:
     bool refused(const QString& path, const reading::Frame& frame, reading::Refusal why,
                  const reading::ParseFailure& failure, QDomDocument& document) override;
     void asked(const QDomElement& element, const reading::Asked& asked) override;
-    QDomElement child(const QDomElement& parent, const QString& tag, reading::OnNull cost,
+    bool attributeTested(const QDomElement& element, const QString& name, bool found) override;
+    QDomElement child(const QDomElement& parent, const QString& tag, reading::OnNull cost, const bool* scope,
                       const QDomElement& found) override;
+    void scopeBegins(const bool* scope, const QDomElement& element) override;
     void childTested(const QDomElement& parent, const QString& tag, bool found) override;
     bool contentTested(const QDomElement& element, bool found) override;
-    void tagTested(const QDomElement& element, const QString& tag, bool is) override;
+    bool tagTested(const QDomElement& element, const QString& tag, bool is) override;
     void walked(const QDomElement& parent, reading::Walk walk, const QString& tag) override;
     void visited(const QDomElement& element, reading::Walk walk, const QString& tag) override;
-    bool failed(const QDomElement& element, const QString& tag) override;
+    bool failed(const QDomElement& element, const QString& tag, const bool* scope) override;
     void reading(const QDomElement& element, const reading::Location& record) override;
     void standsFor(const reading::Location& aside, const reading::Location& place) override;
 
 private:
     /// The grammar's element that the document's stands for; null where the reader has strayed.
     Element* of(const QDomElement& element);
+    Attribute& attributeOf(Element& element, const QString& name);
     Element& childOf(Element& parent, const QString& tag);
     QDomElement put(const QDomElement& parent, Element& child);
     void setAttributes(QDomElement element, const QString& trial);
@@ -51,6 +54,7 @@ private:
     std::unique_ptr<Element> _root;
     std::vector<Element*> _elements;               ///< By the number that the document's elements are marked with.
     std::map<const Element*, reading::Location> _records; ///< What each was read into first in this visit.
+    std::map<const bool*, const Element*> _scopes;        ///< What is lost with a failure.
     QHash<QString, QStringList> _trials;
     QString _trial;
     QDomElement _strayed; ///< A list takes this element for an entry, and it is none.
