@@ -84,8 +84,9 @@ struct Stage {
               "panel/menuconfig.xml", "panel/fnkeyboardconfig.xml"})
             write(file, {});
         // A slot that names no model takes the card of model 0.
-        write("device/slot.xml", "<DCS><Device><Slots><MainControlCardSlots><Slot><Subcards><Subcard/></Subcards></Slot>"
-                                 "</MainControlCardSlots></Slots></Device></DCS>");
+        write("device/slot.xml",
+              "<DCS><Device><Slots><MainControlCardSlots><Slot><Subcards><Subcard/></Subcards></Slot>"
+              "</MainControlCardSlots></Slots></Device></DCS>");
         write("onecard/0.xml", "<DCS><Subcards><Subcard><Name><zh_CN/><en/></Name></Subcard></Subcards></DCS>");
         const Hosting hosting(devices, cards);
         QString unused;
@@ -121,18 +122,29 @@ bool read(FileKind kind, const Stage& stage)
     QString unused;
     const QString file = stage.path("file.xml");
     switch (kind) {
-    case FileKind::Feature: return parse(&DeviceConfig::parseDeviceFeaturecfg, file);
-    case FileKind::Slot: return parse(&DeviceConfig::parseDeviceSlotcfg, file);
-    case FileKind::Silk: return parse(&DeviceConfig::parseDeviceSilkcfg, file);
-    case FileKind::Screen: return parse(&DeviceConfig::parseDeviceScreencfg, file);
-    case FileKind::Layer: return parse(&DeviceConfig::parseDeviceLayercfg, file);
-    case FileKind::Card: return SubcardConfig().readConfig(stage.path("card"), unused);
+    case FileKind::Feature:
+        return parse(&DeviceConfig::parseDeviceFeaturecfg, file);
+    case FileKind::Slot:
+        return parse(&DeviceConfig::parseDeviceSlotcfg, file);
+    case FileKind::Silk:
+        return parse(&DeviceConfig::parseDeviceSilkcfg, file);
+    case FileKind::Screen:
+        return parse(&DeviceConfig::parseDeviceScreencfg, file);
+    case FileKind::Layer:
+        return parse(&DeviceConfig::parseDeviceLayercfg, file);
+    case FileKind::Card:
+        return SubcardConfig().readConfig(stage.path("card"), unused);
     case FileKind::Connector:
-    case FileKind::Resolution: return ConnectorConfig().readConfig(stage.path("connector"), unused);
-    case FileKind::Menu: return MenuConfig().readConfig(stage.path("panel"));
-    case FileKind::FunctionKeys: return FNButtonConfig().readConfig(stage.path("panel"), unused);
-    case FileKind::KeyCheck: return KeyCheckConfig().readConfig(stage.path("keycheck"), unused);
-    case FileKind::LockArea: return LockAreaConfig().readConfig(file, unused);
+    case FileKind::Resolution:
+        return ConnectorConfig().readConfig(stage.path("connector"), unused);
+    case FileKind::Menu:
+        return MenuConfig().readConfig(stage.path("panel"));
+    case FileKind::FunctionKeys:
+        return FNButtonConfig().readConfig(stage.path("panel"), unused);
+    case FileKind::KeyCheck:
+        return KeyCheckConfig().readConfig(stage.path("keycheck"), unused);
+    case FileKind::LockArea:
+        return LockAreaConfig().readConfig(file, unused);
     }
     return false;
 }

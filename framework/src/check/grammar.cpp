@@ -47,10 +47,7 @@ std::optional<reading::OnNull> Element::cost() const
     return highest != lookUps.end() ? std::optional(highest->cost) : std::nullopt;
 }
 
-bool Element::isRequired() const
-{
-    return cost() == reading::OnNull::Fail || cost() == reading::OnNull::FailAndLog;
-}
+bool Element::isRequired() const { return cost() == reading::OnNull::Fail || cost() == reading::OnNull::FailAndLog; }
 
 bool Element::takesAnyTag() const
 {
@@ -109,9 +106,8 @@ std::vector<const Element*> Grammar::placesOfElement(const QString& tag) const
 
 std::vector<const Element*> Grammar::placesOfAttribute(const QString& name) const
 {
-    return those(all(), [&](const Element& element) {
-        return element.sameAs == nullptr && element.attribute(name) != nullptr;
-    });
+    return those(
+        all(), [&](const Element& element) { return element.sameAs == nullptr && element.attribute(name) != nullptr; });
 }
 
 const Grammar& grammarOf(FileKind kind)

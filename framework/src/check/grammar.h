@@ -78,11 +78,11 @@ struct Element {
     std::vector<std::unique_ptr<Element>> children;
     const Element* sameAs = nullptr; ///< The element above that it repeats, with all that stands below; it has none.
 
-    std::vector<LookUp> lookUps;        ///< By tag, each of which finds it as the first child.
-    std::vector<Visit> visits;          ///< Of each list of which it is an entry.
-    bool presenceAsked = false;         ///< Whether something else depends on it being there.
-    bool refused = false;               ///< Its presence is what is an error.
-    FieldPlace record;                  ///< The member that it fills, if it fills one.
+    std::vector<LookUp> lookUps; ///< By tag, each of which finds it as the first child.
+    std::vector<Visit> visits;   ///< Of each list of which it is an entry.
+    bool presenceAsked = false;  ///< Whether something else depends on it being there.
+    bool refused = false;        ///< Its presence is what is an error.
+    FieldPlace record;           ///< The member that it fills, if it fills one.
 
     /// The cost of its absence, the highest of several; nothing for entries of lists and what is only tested.
     [[nodiscard]] std::optional<reading::OnNull> cost() const;

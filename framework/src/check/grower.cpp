@@ -136,7 +136,7 @@ Attribute& Grower::attributeOf(Element& element, const QString& name)
                                     [&](const Attribute& attribute) { return attribute.name == name; });
     if (found != attributes.end()) return *found;
     ++_known;
-    return attributes.emplace_back(Attribute{name, {}, false, {}});
+    return attributes.emplace_back(Attribute{name, {}, {}, false});
 }
 
 bool Grower::attributeTested(const QDomElement& element, const QString& name, bool /*found*/)

@@ -52,7 +52,7 @@ private:
 
     FileKind _kind;
     std::unique_ptr<Element> _root;
-    std::vector<Element*> _elements;               ///< By the number that the document's elements are marked with.
+    std::vector<Element*> _elements; ///< By the number that the document's elements are marked with.
     std::map<const Element*, reading::Location> _records; ///< What each was read into first in this visit.
     std::map<const bool*, const Element*> _scopes;        ///< What is lost with a failure.
     QHash<QString, QStringList> _trials;

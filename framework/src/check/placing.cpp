@@ -14,8 +14,8 @@ bool isSame(const reading::Location& one, const reading::Location& other)
 /// Whether the field is a part of the record, and not all of it.
 bool holds(const reading::Location& record, const reading::Location& field)
 {
-    return addressOf(field) >= addressOf(record) &&
-           addressOf(field) + field.size <= addressOf(record) + record.size && record.size > field.size;
+    return addressOf(field) >= addressOf(record) && addressOf(field) + field.size <= addressOf(record) + record.size &&
+           record.size > field.size;
 }
 
 } // namespace
