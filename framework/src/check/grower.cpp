@@ -24,6 +24,9 @@ QString likelyTag(const QString& listTag)
     return listTag.endsWith('s') ? listTag.chopped(1) : QStringLiteral("Entry");
 }
 
+/// As the parser makes elements: some readers ask for the local name.
+QDomElement create(QDomDocument& document, const QString& tag) { return document.createElementNS(QString(), tag); }
+
 bool isBelow(const QDomNode& node, const QDomNode& above)
 {
     for (QDomNode at = node; !at.isNull(); at = at.parentNode())
@@ -84,7 +87,7 @@ bool Grower::refused(const QString& path, const reading::Frame& frame, reading::
 {
     if (fed.documentElement().isNull()) {
         _root->tag = frame.rootTag;
-        QDomElement root = fed.createElement(_root->tag);
+        QDomElement root = create(fed, _root->tag);
         root.setAttribute(MARK, 0);
         fed.appendChild(root);
         _elements.push_back(_root.get());
@@ -122,7 +125,7 @@ QDomElement Grower::put(const QDomElement& parent, Element& child)
     QDomElement element = parent.firstChildElement(tag);
     // A list that is told apart by its tags has no entry of any tag any more.
     if (!element.isNull() || child.tag.isEmpty()) return element;
-    element = fed.createElement(tag);
+    element = create(fed, tag);
     const auto number = std::find(_elements.begin(), _elements.end(), &child) - _elements.begin();
     element.setAttribute(MARK, static_cast<int>(number));
     QDomElement(parent).appendChild(element);
@@ -165,8 +168,9 @@ QDomElement Grower::child(const QDomElement& parent, const QString& tag, OnNull 
 {
     Element* const grown = of(parent);
     // Beside the way, any element will do to get on.
-    if (grown == nullptr) return found.isNull() ? fed.createElement(tag) : found;
+    if (grown == nullptr) return found.isNull() ? create(fed, tag) : found;
     Element& child = childOf(*grown, tag);
+    _records.erase(&child);
     const auto lost = _scopes.find(scope);
     if (addTo(child.lookUps, {cost, lost != _scopes.end() ? lost->second : nullptr})) ++_known;
     return put(parent, child);
@@ -236,15 +240,28 @@ bool Grower::failed(const QDomElement& element, const QString& tag, const bool* 
 void Grower::reading(const QDomElement& element, const Location& record)
 {
     Element* const grown = of(element);
-    if (grown != nullptr) recognise(*grown, record);
     _placing.enter(record);
-    if (grown != nullptr && grown->record.record == nullptr) grown->record = _placing.memberOf(record);
+    if (grown == nullptr) return;
+    recognise(*grown, record);
+    if (grown->record.record == nullptr && !fillsRecordAbove(*grown, record)) grown->record = _placing.memberOf(record);
+}
+
+/// Whether the element fills the very record of one above it.
+bool Grower::fillsRecordAbove(const Element& element, const Location& record) const
+{
+    for (const Element* above = element.parent; above != nullptr; above = above->parent) {
+        const auto known = _records.find(above);
+        if (known == _records.end()) continue;
+        if (known->second.address == record.address && *known->second.type == *record.type) return true;
+    }
+    return false;
 }
 
 /// An entry that is read into a record of the same type as an entry above it repeats that one.
 void Grower::recognise(Element& element, const Location& record)
 {
-    if (!element.isEntry() || !_records.emplace(&element, record).second || element.sameAs != nullptr) return;
+    const bool isFirst = _records.emplace(&element, record).second;
+    if (!isFirst || !element.isEntry() || element.sameAs != nullptr) return;
     for (const Element* above = element.parent; above != nullptr; above = above->parent) {
         const auto known = _records.find(above);
         if (known == _records.end() || !(*known->second.type == *record.type)) continue;

@@ -48,6 +48,7 @@ private:
     Element& childOf(Element& parent, const QString& tag);
     QDomElement put(const QDomElement& parent, Element& child);
     void setAttributes(QDomElement element, const QString& trial);
+    [[nodiscard]] bool fillsRecordAbove(const Element& element, const reading::Location& record) const;
     void recognise(Element& element, const reading::Location& record);
 
     FileKind _kind;
