@@ -75,7 +75,8 @@ void SourceScanner::endTag()
         const int junk = i;
         while (i < _end && _data[i] != u'>' && _data[i] != u'<' && _data[i] != u'\n') ++i;
         if (at(i) == '>') {
-            fault({junk, i}, QStringLiteral("\"%1\" within the end tag \"</%2>\"").arg(shown(Span{junk, i}), shown(name)));
+            fault({junk, i},
+                  QStringLiteral("\"%1\" within the end tag \"</%2>\"").arg(shown(Span{junk, i}), shown(name)));
         } else {
             fault({name.end, name.end}, QStringLiteral("\"</%1\" is not ended by \">\"").arg(shown(name)));
             i = name.end;

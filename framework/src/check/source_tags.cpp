@@ -106,7 +106,8 @@ void SourceScanner::attribute(Source::Element& element, bool spaced)
     const int begin = _position;
     attribute.name = {begin, nameEnd(begin)};
     if (attribute.name.isEmpty() && at(begin) != '=') {
-        fault({begin, begin + 1}, QStringLiteral("\"%1\" that belongs to no attribute").arg(shown(Span{begin, begin + 1})));
+        fault({begin, begin + 1},
+              QStringLiteral("\"%1\" that belongs to no attribute").arg(shown(Span{begin, begin + 1})));
         ++_position;
         return;
     }
