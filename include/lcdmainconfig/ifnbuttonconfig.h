@@ -10,6 +10,7 @@
 
 namespace LCD::MainConfig {
 
+/// The factory bindings of the function buttons. Panel file "fnkeyboardconfig.xml", root LCD. Every result is a copy.
 class IFNButtonConfig {
 public:
     virtual ~IFNButtonConfig() = default;
