@@ -133,7 +133,8 @@ private:
     {
         _source.mark();
         _levels += static_cast<qint64>(nodes) * _depth;
-        return _levels <= MOST_LEVELS || refuse(QStringLiteral("the levels of all nodes are more than %1"), MOST_LEVELS);
+        return _levels <= MOST_LEVELS ||
+               refuse(QStringLiteral("the levels of all nodes are more than %1"), MOST_LEVELS);
     }
     bool declares(int length)
     {

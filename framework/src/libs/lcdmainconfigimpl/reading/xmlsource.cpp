@@ -46,7 +46,8 @@ void XmlSource::decode(QIODevice& device)
             return;
         }
         for (int from = 0; from < got; from += piece)
-            _text += fromRawData(QByteArray::fromRawData(block.data() + from, std::min(piece, static_cast<int>(got) - from)));
+            _text += fromRawData(
+                QByteArray::fromRawData(block.data() + from, std::min(piece, static_cast<int>(got) - from)));
     }
 }
 
