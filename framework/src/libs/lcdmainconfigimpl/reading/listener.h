@@ -39,7 +39,6 @@ enum class Walk {
 
 /// What a text is taken for.
 enum class Kind {
-    Presence,   ///< Only whether it is there was asked.
     Text,       ///< Any text.
     Int,        ///< A signed 32-bit integer.
     Signed64,   ///< A signed 64-bit integer.
@@ -102,28 +101,33 @@ public:
 
     // What a reader asks of an element. A null element was not there and is read for its defaults.
 
+    /// Whether an attribute is there at all. The result counts.
+    virtual bool attributeTested(const QDomElement& /*element*/, const QString& /*name*/, bool found) { return found; }
     /// An attribute, or the content of the element.
     virtual void asked(const QDomElement& /*element*/, const Asked& /*asked*/) {}
-    /// The first child of that tag. The result is read in the place of `found`, so that a listener can put in a child
-    /// that is missing; it need not stand in the document.
+    /// The first child of that tag, in a scope of failure. The result is read in the place of `found`, so that a
+    /// listener can put in a child that is missing; it need not stand in the document.
     virtual QDomElement child(const QDomElement& /*parent*/, const QString& /*tag*/, OnNull /*cost*/,
-                              const QDomElement& found)
+                              const bool* /*scope*/, const QDomElement& found)
     {
         return found;
     }
+    /// A scope of failure begins: what fails in it costs what is read of this element from here on, and no more. The
+    /// address is the scope's name until another scope begins under it.
+    virtual void scopeBegins(const bool* /*scope*/, const QDomElement& /*element*/) {}
     /// Whether a child of that tag is there at all; its absence costs nothing yet.
     virtual void childTested(const QDomElement& /*parent*/, const QString& /*tag*/, bool /*found*/) {}
     /// Whether the element holds anything. The result counts.
     virtual bool contentTested(const QDomElement& /*element*/, bool found) { return found; }
-    /// Whether the element's tag is this one; a reader with several answers asks for each in turn.
-    virtual void tagTested(const QDomElement& /*element*/, const QString& /*tag*/, bool /*is*/) {}
-    /// A list is walked below the element. The tag counts for the named walks; for the others it names what belongs
-    /// there, or is empty where every tag does.
+    /// Whether the element's tag is this one; a reader with several answers asks for each in turn. The result counts.
+    virtual bool tagTested(const QDomElement& /*element*/, const QString& /*tag*/, bool is) { return is; }
+    /// A list will be walked below the element. The tag counts for the named walks; for the others it names what
+    /// belongs there, or is empty where every tag does.
     virtual void walked(const QDomElement& /*parent*/, Walk /*walk*/, const QString& /*tag*/) {}
     /// A walk has come to an element.
     virtual void visited(const QDomElement& /*element*/, Walk /*walk*/, const QString& /*tag*/) {}
     /// A reader ends here with a message about `tag`, for a reason of its own. True: it goes on all the same.
-    virtual bool failed(const QDomElement& /*element*/, const QString& /*tag*/) { return false; }
+    virtual bool failed(const QDomElement& /*element*/, const QString& /*tag*/, const bool* /*scope*/) { return false; }
 
     // Where it goes.
 

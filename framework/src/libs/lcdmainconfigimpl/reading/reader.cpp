@@ -18,6 +18,13 @@ Reader::Reader(const QDomElement& element, const Report& report, bool& failed)
     : _element(element), _report(&report), _failed(&failed)
 {}
 
+Reader Reader::scoped(bool& failed) const
+{
+    if (listener() != nullptr) [[unlikely]]
+        listener()->scopeBegins(&failed, _element);
+    return {_element, *_report, failed};
+}
+
 void Reader::leave(const QString& tag, const char* message, bool log) const
 {
     _report->error = _report->say(message != nullptr ? message : _report->invalidNode, tag);
@@ -26,7 +33,7 @@ void Reader::leave(const QString& tag, const char* message, bool log) const
 
 void Reader::fail(Literal tag, const char* message) const
 {
-    if (failed() || (listener() != nullptr && listener()->failed(_element, tag.string()))) return;
+    if (failed() || (listener() != nullptr && listener()->failed(_element, tag.string(), _failed))) return;
     leave(tag.string(), message, false);
     *_failed = true;
 }
@@ -45,8 +52,8 @@ bool Reader::has(Literal tag) const
 
 bool Reader::hasAttribute(Literal name) const
 {
-    tell(name, "", Kind::Presence);
-    return _element.hasAttribute(name.string());
+    const bool found = _element.hasAttribute(name.string());
+    return listener() != nullptr ? listener()->attributeTested(_element, name.string(), found) : found;
 }
 
 bool Reader::hasContent() const
@@ -58,8 +65,7 @@ bool Reader::hasContent() const
 bool Reader::is(Literal tag) const
 {
     const bool same = _element.tagName() == tag.string();
-    if (listener() != nullptr) listener()->tagTested(_element, tag.string(), same);
-    return same;
+    return listener() != nullptr ? listener()->tagTested(_element, tag.string(), same) : same;
 }
 
 QString Reader::attribute(Literal name, Literal readDefault) const
@@ -95,7 +101,7 @@ std::optional<Reader> Reader::find(const QString& tag, OnNull onNull) const
     if (failed()) return {};
     QDomElement child = _element.firstChildElement(tag);
     if (listener() != nullptr) [[unlikely]]
-        child = listener()->child(_element, tag, onNull, child);
+        child = listener()->child(_element, tag, onNull, _failed, child);
     if (!child.isNull() || onNull == OnNull::ReadDefaults) return Reader(child, *_report, *_failed);
     if (onNull == OnNull::Skip) return {};
     leave(tag, nullptr, onNull == OnNull::FailAndLog || onNull == OnNull::NoteAndLog);

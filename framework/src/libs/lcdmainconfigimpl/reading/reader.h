@@ -168,7 +168,7 @@ public:
     }
 
     /// The same element in a scope of failure of its own.
-    [[nodiscard]] Reader scoped(bool& failed) const { return {_element, *_report, failed}; }
+    [[nodiscard]] Reader scoped(bool& failed) const;
 
 private:
     template <class Record, class Cell> void readCell(Record& record, const Cell& cell) const
@@ -194,7 +194,7 @@ template <class Record, class... Cells>
 bool readElement(const QDomElement& element, const Report& report, Record& record, const Cells&... cells)
 {
     bool failed = false;
-    Reader(element, report, failed).read(record, cells...);
+    Reader(element, report, failed).scoped(failed).read(record, cells...);
     return !failed;
 }
 
