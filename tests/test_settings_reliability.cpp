@@ -119,7 +119,7 @@ private Q_SLOTS:
                 while (clearing) store->changeUnlocked([](LCD::MainConfigImpl::IniFile& file) { file.write(); });
             });
             for (int n = 0; n < 4; ++n)
-                store->change([&](QSettings& file) { file.setValue("Section/entry", round + n); });
+                store->change([&](LCD::MainConfigImpl::IniFile& file) { file.setValue("Section/entry", round + n); });
             clearing = false;
             other.join();
             store.reset();
