@@ -45,16 +45,17 @@ public:
         if (fstat(_descriptor, &found) != 0) return std::nullopt;
         return found;
     }
-    /// Writes all of it; false, with `errno`, when some of it did not go.
+    /// Makes this its whole content; false, with `errno`, when some of it did not go.
     [[nodiscard]] bool write(const QByteArray& bytes) const
     {
         for (int done = 0; done < bytes.size();) {
-            const ssize_t written = ::write(_descriptor, bytes.constData() + done, std::size_t(bytes.size() - done));
+            const ssize_t written =
+                ::pwrite(_descriptor, bytes.constData() + done, std::size_t(bytes.size() - done), done);
             if (written == 0) errno = ENOSPC;
             if (written == 0 || (written < 0 && errno != EINTR)) return false;
             if (written > 0) done += int(written);
         }
-        return true;
+        return ftruncate(_descriptor, bytes.size()) == 0;
     }
     /// At most `most` bytes from the start; nothing, with `errno`, when they cannot be read.
     [[nodiscard]] std::optional<QByteArray> read(int most) const

@@ -87,13 +87,16 @@ QByteArray escapedText(const QString& text)
     return needsQuotes ? '"' + escaped + '"' : escaped;
 }
 
+/// With its zero bytes.
+QString latin1(const QByteArray& bytes) { return QString::fromLatin1(bytes.constData(), bytes.size()); }
+
 QString textOf(const QVariant& value)
 {
     switch (value.userType()) {
     case QMetaType::UnknownType:
         return "@Invalid()";
     case QMetaType::QByteArray:
-        return "@ByteArray(" + QString::fromLatin1(value.toByteArray()) + ')';
+        return "@ByteArray(" + latin1(value.toByteArray()) + ')';
     case QMetaType::Int:
     case QMetaType::QString: {
         const QString text = value.toString();
@@ -108,7 +111,7 @@ QString textOf(const QVariant& value)
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(isDateTime ? QDataStream::Qt_5_6 : QDataStream::Qt_4_0);
     stream << value;
-    return (isDateTime ? "@DateTime(" : "@Variant(") + QString::fromLatin1(bytes) + ')';
+    return (isDateTime ? "@DateTime(" : "@Variant(") + latin1(bytes) + ')';
 }
 
 QByteArray escapedValue(const QVariant& value)

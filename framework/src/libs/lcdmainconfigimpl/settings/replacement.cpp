@@ -12,8 +12,17 @@ namespace LCD::MainConfigImpl {
 
 namespace {
 
-/// How long the maker of a lock may take from its creation to flock(), seconds.
-constexpr int TIME_TO_LOCK = 2;
+/// How long the maker of a lock may take from its creation to flock().
+constexpr qint64 MILLISECONDS_TO_LOCK = 500;
+
+qint64 milliseconds(const timespec& time) { return qint64(time.tv_sec) * 1000 + time.tv_nsec / 1'000'000; }
+
+timespec now()
+{
+    timespec time{};
+    clock_gettime(CLOCK_REALTIME, &time);
+    return time;
+}
 
 bool isSame(const FileDescriptor& file, const QString& path)
 {
@@ -31,15 +40,14 @@ bool lockNow(const FileDescriptor& file)
     return result == 0;
 }
 
-timespec after(const timespec& old)
+/// The time of a file that follows one of the time `old`: later by a millisecond at least, unless the clock was set
+/// back.
+timespec timeAfter(const timespec& old)
 {
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    timespec next{old.tv_sec, old.tv_nsec + 1'000'000};
-    if (next.tv_nsec >= 1'000'000'000) next = {old.tv_sec + 1, next.tv_nsec - 1'000'000'000};
-    const bool isPast = next.tv_sec < now.tv_sec || (next.tv_sec == now.tv_sec && next.tv_nsec <= now.tv_nsec);
-    // A clock that was set back long ago is believed all the same.
-    return isPast || next.tv_sec > now.tv_sec + 60 ? now : next;
+    const timespec present = now();
+    const qint64 least = milliseconds(old) + 1;
+    if (milliseconds(present) >= least || least > milliseconds(present) + 60'000) return present;
+    return {time_t(least / 1000), long(least % 1000) * 1'000'000};
 }
 
 } // namespace
@@ -70,7 +78,7 @@ bool Replacement::tryToLock()
     _new = FileDescriptor(_lock, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, exists ? old.st_mode & 0777 : 0666);
     if (!_new.isOpen()) return errno != EEXIST && fail("no new file can be made");
     // Until here someone may have taken it for one left behind.
-    if (lockNow(_new) && isSame(_new, _lock)) return true;
+    if (lockNow(_new) && isSame(_new, _lock)) return _new.write(";") || fail("the new file cannot be written");
     _new = FileDescriptor();
     return false;
 }
@@ -92,7 +100,7 @@ bool Replacement::takeAfterTheOldFile() const
     if ((made->st_uid != old.st_uid || made->st_gid != old.st_gid) && fchown(_new.get(), old.st_uid, old.st_gid) != 0 &&
         errno != EPERM)
         return false;
-    const timespec time = after(old.st_mtim);
+    const timespec time = timeAfter(old.st_mtim);
     const timespec both[2] = {time, time};
     return fchmod(_new.get(), old.st_mode & 0777) == 0 && futimens(_new.get(), both) == 0;
 }
@@ -132,12 +140,14 @@ void Replacement::clearAway(const QString& path)
         if (foreign.tryLock(0)) foreign.unlock();
         return;
     }
-    // One of ours, or one that a power cut has emptied. A living owner holds it by flock() before anything is in it.
+    // One of ours, or one that a power cut has emptied. A living owner holds it by flock() before anything is in it,
+    // which is soon.
     const FileDescriptor file(name, O_RDWR | O_NOFOLLOW);
     if (!file.isOpen() || !lockNow(file)) return;
     const auto status = file.status();
-    const bool isLeft =
-        status && (status->st_size > 0 || std::abs(std::time(nullptr) - status->st_mtime) > TIME_TO_LOCK);
+    if (!status) return;
+    const qint64 age = std::abs(milliseconds(now()) - milliseconds(status->st_mtim));
+    const bool isLeft = status->st_size > 0 || age > MILLISECONDS_TO_LOCK;
     if (isLeft && isSame(file, name)) unlink(QFile::encodeName(name).constData());
 }
 
