@@ -477,9 +477,9 @@ private Q_SLOTS:
     {
         Factory panel(QString{});
         panel->setFnBtnMaxCount(2147483647);
-        QTest::ignoreMessage(QtWarningMsg, "Only the first 1024 of 2147483647 function buttons are set");
+        QTest::ignoreMessage(QtWarningMsg, "Only the first 256 of 2147483647 function buttons are set");
         panel->setALLFnSettingValue(1);
-        QCOMPARE(panel->getFnSettingValue(1023), 1);
+        QCOMPARE(panel->getFnSettingValue(255), 1);
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "filedescriptor.h"
 
+#include <algorithm>
 #include <atomic>
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -132,6 +133,14 @@ QByteArray sectionLine(const QString& section)
     return (escaped.toLower() == "general" ? "[%General" : '[' + escaped) + "]\n";
 }
 
+/// QSettings takes a failed read for an empty file.
+bool hasEntry(const QByteArray& text)
+{
+    const QByteArrayList lines = text.split('\n');
+    return std::any_of(lines.begin(), lines.end(),
+                       [](const QByteArray& line) { return !line.trimmed().startsWith(';') && line.contains('='); });
+}
+
 } // namespace
 
 QByteArray iniText(const IniEntries& entries)
@@ -163,7 +172,9 @@ std::unique_ptr<const QSettings> readIniText(const QByteArray& text)
     if (!memory.write(text) || futimens(memory.get(), both) != 0 || !QFileInfo(name).isReadable()) return nullptr;
     auto settings = std::make_unique<QSettings>(name, QSettings::IniFormat);
     // Each section is read when it is first asked for, and its faults are told then.
-    settings->allKeys();
+    const bool isEmpty = settings->allKeys().isEmpty();
+    const bool isUnread = isEmpty && settings->status() == QSettings::NoError && hasEntry(text);
+    if (settings->status() == QSettings::AccessError || isUnread) return nullptr;
     return settings;
 }
 

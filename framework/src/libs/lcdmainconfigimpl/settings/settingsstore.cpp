@@ -11,7 +11,7 @@ void linuxSync() { [[maybe_unused]] const int ignored = std::system("sync"); }
 
 int boundedFnButtons(int count)
 {
-    constexpr int most = 1024;
+    constexpr int most = 256;
     if (count > most) qWarning() << "Only the first" << most << "of" << count << "function buttons are set";
     return std::min(count, most);
 }
