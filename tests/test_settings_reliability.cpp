@@ -161,22 +161,22 @@ private Q_SLOTS:
     {
         QTest::addColumn<StoreWork>("work");
         QTest::addColumn<bool>("waits");
-        const auto row = [](const char* name, bool waits, const StoreWork& work) {
-            QTest::newRow(name) << work << waits;
-        };
-        row("open", true, [](SettingsStore& store, const QString& file) { store.open(file); });
-        row("number", true, [](SettingsStore& store, const QString&) { Q_UNUSED(store.number("A/x", 0)) });
-        row("text", true, [](SettingsStore& store, const QString&) { Q_UNUSED(store.text("A/x", "")) });
-        row("textUnlocked", false,
-            [](SettingsStore& store, const QString&) { Q_UNUSED(store.textUnlocked("A/x", "")) });
-        row("seeded", true, [](SettingsStore& store, const QString&) { Q_UNUSED(store.seeded({{"A/x", "1"}})) });
-        row("set", true, [](SettingsStore& store, const QString&) { store.set("A/x", 1); });
         const auto nothing = [](IniFile&) { return 0; };
-        row("read", true, [=](SettingsStore& store, const QString&) { store.read(0, nothing); });
-        row("readOrWarn", true, [=](SettingsStore& store, const QString&) { store.readOrWarn(0, nothing); });
-        row("change", true, [=](SettingsStore& store, const QString&) { store.change(nothing); });
-        row("changeOrWarn", true, [=](SettingsStore& store, const QString&) { store.changeOrWarn(nothing); });
-        row("changeUnlocked", false, [=](SettingsStore& store, const QString&) { store.changeUnlocked(nothing); });
+        // clang-format off
+        const std::tuple<const char*, bool, StoreWork> rows[] = {
+            {"open",            true,  [](SettingsStore& store, const QString& file) { store.open(file); }},
+            {"number",          true,  [](SettingsStore& store, const QString&) { Q_UNUSED(store.number("A/x", 0)) }},
+            {"text",            true,  [](SettingsStore& store, const QString&) { Q_UNUSED(store.text("A/x", "")) }},
+            {"textUnlocked",    false, [](SettingsStore& store, const QString&) { Q_UNUSED(store.textUnlocked("A/x", "")) }},
+            {"seeded",          true,  [](SettingsStore& store, const QString&) { Q_UNUSED(store.seeded({{"A/x", "1"}})) }},
+            {"set",             true,  [](SettingsStore& store, const QString&) { store.set("A/x", 1); }},
+            {"read",            true,  [=](SettingsStore& store, const QString&) { store.read(0, nothing); }},
+            {"readOrWarn",      true,  [=](SettingsStore& store, const QString&) { store.readOrWarn(0, nothing); }},
+            {"change",          true,  [=](SettingsStore& store, const QString&) { store.change(nothing); }},
+            {"changeOrWarn",    true,  [=](SettingsStore& store, const QString&) { store.changeOrWarn(nothing); }},
+            {"changeUnlocked",  false, [=](SettingsStore& store, const QString&) { store.changeUnlocked(nothing); }}};
+        // clang-format on
+        for (const auto& [name, waits, work] : rows) QTest::newRow(name) << work << waits;
     }
 
     void waitsForAChange()
