@@ -6,6 +6,7 @@
 #include "lcdhost_slots.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -59,7 +60,8 @@ void Session::checkCards(const QString& path)
 void Session::checkConnectors(const QString& path)
 {
     std::map<int, QString> asked;
-    for (const Lcd::s_Subcard& card : cards().subcardConfig()->subcards)
+    const auto all = cards().subcardConfig();
+    for (const Lcd::s_Subcard& card : all->subcards)
         for (const Lcd::s_SubcardConnector& connector : card.connectors.connectors)
             asked.try_emplace(connector.type,
                               QString("card %1 has connector type %2").arg(card.modelId).arg(connector.type));
@@ -96,10 +98,22 @@ void Session::checkSettings(const QString& file)
 {
     if (!hasAnySetting(settings())) note(file, {"holds no setting that the panel knows"});
     // A copy, since objects on one file share what they have read of it, and the damage is told to the first alone.
-    QTemporaryDir aside;
+    const QTemporaryDir aside;
     const QString copy = aside.filePath("copy.ini");
-    if (QFile::copy(file, copy) && QSettings(copy, QSettings::IniFormat).status() == QSettings::FormatError)
+    if (!QFile::copy(file, copy)) return;
+    const QSettings ini(copy, QSettings::IniFormat);
+    // A section is looked at when its keys are asked for.
+    if (!ini.allKeys().isEmpty() && ini.status() == QSettings::FormatError)
         note(file, {"damaged: not every line is a section or a setting"});
+}
+
+void Session::noteEmpty(Catalogue catalogue)
+{
+    const Folder& folder = folderOf(catalogue);
+    const QString path = pathOf(_root, folder);
+    const bool isKnown = std::any_of(_problems.begin(), _problems.end(),
+                                     [&path](const Problem& problem) { return problem.where.startsWith(path); });
+    if (!isKnown) note(folder.file == nullptr ? path : path + '/' + folder.file, {"holds nothing that the panel uses"});
 }
 
 } // namespace lcdhost

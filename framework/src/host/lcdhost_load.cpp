@@ -143,7 +143,7 @@ Records layerRecords(const Session& session, const Lcd::s_Device& device)
 /// The catalogues one by one: how much there is, and what stands out.
 class Counts {
 public:
-    explicit Counts(const Session& session) : _session(session), _cards(*session.cards().subcardConfig()) {}
+    explicit Counts(Session& session) : _session(session), _cards(*session.cards().subcardConfig()) {}
 
     [[nodiscard]] Records counted()
     {
@@ -162,7 +162,10 @@ private:
     {
         if (!_session.has(catalogue)) return _records.add({name, QJsonValue::Null, "not there"});
         QStringList notes{note};
-        if (count == 0) notes.prepend("empty");
+        if (count == 0) {
+            notes.prepend("empty");
+            _session.noteEmpty(catalogue);
+        }
         if (!_session.isLoaded(catalogue)) notes.prepend("not read to the end");
         notes.removeAll({});
         _records.add({name, count, notes.join("; ")});
@@ -255,7 +258,7 @@ private:
             keys == 0 ? QString() : QString("%1 keys").arg(keys));
     }
 
-    const Session& _session;
+    Session& _session;
     const Lcd::s_DCSSubcard _cards;
     Records _records{{words("Catalogue"), numbers("Entries"), words("Note")}};
 };

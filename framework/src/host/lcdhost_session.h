@@ -73,6 +73,8 @@ public:
     /// The catalogue was read, and its component had no reason to stop.
     [[nodiscard]] bool isLoaded(Catalogue catalogue) const { return _loaded.contains(int(catalogue)); }
 
+    /// Makes it a problem that a catalogue which was read holds nothing, unless another one tells why.
+    void noteEmpty(Catalogue catalogue);
     [[nodiscard]] const std::vector<Problem>& problems() const { return _problems; }
     /// What the slots and cards of the catalogues read so far ask for in vain.
     [[nodiscard]] const std::vector<Gap>& gaps() const { return _gaps; }
