@@ -55,6 +55,7 @@ void Session::checkCards(const QString& path)
     if (asked.empty()) note(path, {"no slot takes a card, so no card file is read"});
     for (const auto& [model, askedBy] : asked)
         if (!hasCard(model)) noteGap(Catalogue::Cards, QString::number(model), path, askedBy);
+    noteUnread(Catalogue::Cards, path);
 }
 
 void Session::checkConnectors(const QString& path)
@@ -67,6 +68,7 @@ void Session::checkConnectors(const QString& path)
                               QString("card %1 has connector type %2").arg(card.modelId).arg(connector.type));
     for (const auto& [type, askedBy] : asked)
         if (!hasConnectorType(type)) noteGap(Catalogue::Connectors, QString::number(type), path, askedBy);
+    noteUnread(Catalogue::Connectors, path);
     if (!QFileInfo::exists(path + "/resolutionratio.xml"))
         note(path, {"no file resolutionratio.xml, so no connector offers a resolution"});
 }
@@ -87,11 +89,20 @@ void Session::noteGap(Catalogue catalogue, const QString& id, const QString& pat
         cause = Cause::Refused;
     } else if (!isLoaded(catalogue)) {
         cause = Cause::NotRead;
-        note(files.first(), {"not read, since the loading ended at an earlier file, though " + askedBy});
     } else {
         note(files.first(), {"holds something else, though " + askedBy});
     }
     _gaps.push_back({catalogue, id, cause});
+}
+
+/// What a bad file has cost beside its own content.
+void Session::noteUnread(Catalogue catalogue, const QString& path)
+{
+    QStringList unread;
+    for (const Gap& gap : _gaps)
+        if (gap.catalogue == catalogue && gap.cause == Cause::NotRead) unread.append(gap.id);
+    if (!unread.isEmpty())
+        note(path, {"the loading ended at a bad file, so these were not read: " + unread.join(", ")});
 }
 
 void Session::checkSettings(const QString& file)

@@ -125,6 +125,7 @@ private:
     void checkCards(const QString& path);
     void checkConnectors(const QString& path);
     void checkSettings(const QString& file);
+    void noteUnread(Catalogue catalogue, const QString& path);
     void noteGap(Catalogue catalogue, const QString& id, const QString& path, const QString& askedBy);
 
     QString _root;
