@@ -1,0 +1,166 @@
+// The places in a source, and what its written values mean.
+#include "source.h"
+
+#include "source_decode.h"
+#include "source_scan.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace lcdcheck {
+namespace {
+
+bool isNameCharacter(QChar c)
+{
+    return c.isLetterOrNumber() || c.isMark() || c == u'_' || c == u'.' || c == u'-' || c == u':';
+}
+
+uint predefined(QStringView name)
+{
+    if (name == u"amp") return '&';
+    if (name == u"lt") return '<';
+    if (name == u"gt") return '>';
+    if (name == u"quot") return '"';
+    if (name == u"apos") return '\'';
+    return 0;
+}
+
+int digitOf(char16_t c, int base)
+{
+    if (c >= u'0' && c <= u'9') return c - u'0';
+    if (base == 16 && c >= u'a' && c <= u'f') return c - u'a' + 10;
+    if (base == 16 && c >= u'A' && c <= u'F') return c - u'A' + 10;
+    return -1;
+}
+
+} // namespace
+
+QStringView localName(QStringView qualified) { return qualified.mid(qualified.indexOf(u':') + 1); }
+
+Source Source::read(const QByteArray& bytes)
+{
+    Source source;
+    SourceDecoder(source).decode(bytes);
+    SourceScanner(source).scan();
+    return source;
+}
+
+std::optional<Source> Source::readFile(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
+    return read(file.read(qint64(MOST_BYTES) + 1));
+}
+
+const Source::Attribute* Source::attribute(const Element& element, QStringView name) const
+{
+    const auto all = attributes(element);
+    const auto found = std::find_if(all.rbegin(), all.rend(), [&](const Attribute& attribute) {
+        const QStringView written = slice(attribute.name);
+        return localName(written) == name && written != u"xmlns" && !written.startsWith(u"xmlns:");
+    });
+    return found == all.rend() ? nullptr : &*found;
+}
+
+QString Source::value(const Text& text) const { return text.cdata ? slice(text.span).toString() : decoded(text.span); }
+
+QString Source::decoded(Span span) const
+{
+    const QStringView raw = slice(span);
+    if (!raw.contains(u'&')) return raw.toString();
+    QString out;
+    appendDecoded(out, raw);
+    return out;
+}
+
+void Source::appendDecoded(QString& out, QStringView raw) const
+{
+    int position = 0;
+    while (position < raw.size()) {
+        int ampersand = int(raw.indexOf(u'&', position));
+        if (ampersand < 0) ampersand = int(raw.size());
+        out += raw.mid(position, ampersand - position);
+        position = ampersand;
+        if (position == raw.size()) return;
+        const Reference reference = referenceAt(raw, position);
+        if (reference.kind == Reference::Kind::Bare) {
+            out += u'&';
+        } else if (reference.kind == Reference::Kind::Character) {
+            if (QChar::requiresSurrogates(reference.code)) {
+                out += QChar(QChar::highSurrogate(reference.code));
+                out += QChar(QChar::lowSurrogate(reference.code));
+            } else {
+                out += QChar(ushort(reference.code));
+            }
+        } else if (const auto entity = _entities.constFind(reference.name.toString()); entity != _entities.constEnd()) {
+            // A usable entity neither refers to itself nor grows beyond a bound, so this ends.
+            if (entity->state == Entity::State::Usable) appendDecoded(out, entity->value);
+        }
+        position += reference.length;
+    }
+}
+
+Source::Reference Source::referenceAt(QStringView text, int position)
+{
+    const int size = int(text.size());
+    const auto at = [&](int i) { return i < size ? char16_t(text[i].unicode()) : u'\0'; };
+    Reference result;
+    int i = position + 1;
+    if (at(i) == u'#') {
+        const int base = at(++i) == u'x' ? 16 : 10;
+        if (base == 16) ++i;
+        const int first = i;
+        for (int digit = 0; (digit = digitOf(at(i), base)) >= 0; ++i)
+            result.code = std::min(result.code * uint(base) + uint(digit), 0x110000U);
+        if (i == first) return result;
+        result.kind = Reference::Kind::Character;
+    } else {
+        // A name that goes on for ever is no reference; the bound keeps many of them from being read over and over.
+        const int last = std::min(size, i + 256);
+        while (i < last && isNameCharacter(text[i])) ++i;
+        result.name = text.mid(position + 1, i - position - 1);
+        result.code = predefined(result.name);
+        if (result.code == 0 && (result.name.isEmpty() || at(i) != u';')) return result;
+        result.kind = result.code != 0 ? Reference::Kind::Character : Reference::Kind::Entity;
+    }
+    result.terminated = at(i) == u';';
+    result.length = i - position + (result.terminated ? 1 : 0);
+    return result;
+}
+
+int Source::lineIndex(int offset) const
+{
+    return int(std::upper_bound(_lines.begin(), _lines.end(), offset) - _lines.begin()) - 1;
+}
+
+Place Source::place(Span span) const
+{
+    while (span.begin >= _fileLength && !_added.empty() && span.begin >= _added.front().begin) {
+        const auto behind = std::upper_bound(_added.begin(), _added.end(), span.begin,
+                                             [](int offset, const Insertion& added) { return offset < added.begin; });
+        span = std::prev(behind)->reference;
+    }
+    const int line = lineIndex(span.begin);
+    const int first = _lines[size_t(line)];
+    const int behind = line + 1 < lineCount() ? _lines[size_t(line) + 1] : _fileLength;
+    int end = std::clamp(span.end, span.begin, std::max(behind, span.begin));
+    while (end > span.begin && (_text[end - 1] == u'\n' || _text[end - 1] == u'\r')) --end;
+    const auto column = [&](int offset) {
+        const auto from = std::lower_bound(_wide.begin(), _wide.end(), first);
+        const auto to = std::lower_bound(from, _wide.end(), offset);
+        return offset - first - int(to - from) + 1;
+    };
+    return {line + 1, column(span.begin), column(end)};
+}
+
+QString Source::line(int number) const
+{
+    if (number < 1 || number > lineCount()) return {};
+    const int begin = _lines[size_t(number) - 1];
+    int end = number < lineCount() ? _lines[size_t(number)] : _fileLength;
+    while (end > begin && (_text[end - 1] == u'\n' || _text[end - 1] == u'\r')) --end;
+    return _text.mid(begin, end - begin);
+}
+
+} // namespace lcdcheck
