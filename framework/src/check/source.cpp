@@ -42,8 +42,28 @@ Source Source::read(const QByteArray& bytes)
 {
     Source source;
     SourceDecoder(source).decode(bytes);
-    SourceScanner(source).scan();
+    const size_t faults = source._faults.size();
+    const bool fatal = source._fatal;
+    SourceScanner plain(source, SourceScanner::Nesting::ByTags);
+    plain.scan();
+    if (!plain.tagsDisagree()) return source;
+    source.forget(faults, fatal);
+    SourceScanner(source, SourceScanner::Nesting::ByIndentation).scan();
     return source;
+}
+
+void Source::forget(size_t faults, bool fatal)
+{
+    _text.truncate(_fileLength);
+    _added.clear();
+    _elements.clear();
+    _attributes.clear();
+    _texts.clear();
+    _comments.clear();
+    _entities.clear();
+    _faults.resize(faults);
+    _fatal = fatal;
+    _moreFaults = false;
 }
 
 std::optional<Source> Source::readFile(const QString& path)

@@ -152,6 +152,8 @@ private:
         QStringView name; ///< Of another entity.
     };
 
+    /// Takes back all that was read but the text and its own faults.
+    void forget(size_t faults, bool fatal);
     static Reference referenceAt(QStringView text, int position);
     [[nodiscard]] QString decoded(Span span) const;
     void appendDecoded(QString& out, QStringView raw) const;

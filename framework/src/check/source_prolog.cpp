@@ -79,8 +79,9 @@ void SourceScanner::documentType()
     else if (name.isEmpty() || name.begin == keyword.end)
         fault({begin, keyword.end}, QStringLiteral("DOCTYPE without the name of the root element"));
     Span subset;
-    const int end = endOfDocumentType(name.end, subset);
+    const int end = _documentTypeIsOpen ? -1 : endOfDocumentType(name.end, subset);
     if (end < 0) {
+        _documentTypeIsOpen = true;
         fault({begin, keyword.end}, QStringLiteral("DOCTYPE that is not ended by \">\""));
         int i = name.end;
         while (i < _end && _data[i] != u'>' && _data[i] != u'<') ++i;
