@@ -178,6 +178,10 @@ private:
 /// The part of a qualified name by which the DOM knows it: what follows the first colon, or all of it.
 QStringView localName(QStringView qualified);
 
+/// The letters of names, as the panel's parser has them.
+bool beginsName(QChar c);
+bool continuesName(QChar c);
+
 } // namespace lcdcheck
 
 #endif

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace lcdcheck {
 namespace {
@@ -205,10 +206,14 @@ bool SourceScanner::reference(int position, bool inAttribute)
     }
     if (found.kind == Source::Reference::Kind::Character) {
         const uint code = found.code;
-        const bool legal = code >= 0x20
-                               ? code < 0xD800 || (code > 0xDFFF && code != 0xFFFE && code != 0xFFFF && code < 0x110000)
-                               : code == '\t' || code == '\n' || code == '\r';
-        if (!legal) fault(span, QStringLiteral("\"%1\" is no character of XML").arg(shown(span)), code > 0x10FFFF);
+        const bool control = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
+        if (control || (code >= 0xD800 && code < 0xE000) || code == 0xFFFE || code == 0xFFFF || code > 0x10FFFF)
+            fault(span, QStringLiteral("\"%1\" is no character of XML").arg(shown(span)),
+                  code == std::numeric_limits<uint>::max());
+        else if (code > 0xFFFF)
+            fault(span,
+                  QStringLiteral("\"%1\" is read as another character, written itself it is read").arg(shown(span)),
+                  false);
         return false;
     }
     const auto entity = _source._entities.find(found.name.toString());

@@ -87,7 +87,7 @@ void SourceScanner::addText(Span span, bool cdata)
                                               : QStringLiteral("text behind the end of the root element"));
         return;
     }
-    if (!cdata && raw[0] == u'&' ? blank(_source.decoded(span)) : false) return;
+    if (!cdata && raw.contains(u'&') && blank(_source.decoded(span))) return;
     const int parent = _open.back().element;
     Source::Element& element = _source._elements[size_t(parent)];
     if (element.firstText < 0) element.firstText = int(_source._texts.size());

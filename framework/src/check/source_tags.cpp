@@ -8,9 +8,6 @@ namespace {
 
 bool isQuote(ushort c) { return c == '"' || c == '\''; }
 bool isSpace(ushort c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
-bool beginsName(QChar c) { return c.isLetter() || c.category() == QChar::Number_Letter || c == u'_' || c == u':'; }
-
-bool continuesName(QChar c) { return beginsName(c) || c.isNumber() || c.isMark() || c == u'.' || c == u'-'; }
 
 /// Quotes as word processors set them.
 bool isCurlyQuote(ushort c) { return c == 0x201C || c == 0x201D || c == 0x201E || c == 0x2018 || c == 0x2019; }
