@@ -388,7 +388,7 @@ void TestSource::faults_data()
     row("<a>\n <b>\n </b>\n", {"1 \"a\" is never closed"});
     row("<a>\n <b>\n  <c/>\n <b>\n</a>", {"4 \"<b>\" was likely meant as \"</b>\""});
     row("<a>\n <b/>\n  <c/>\n </b>\n</a>", {"4 \"b\" closed itself by \"/>\" at line 2 and is closed again"});
-    row("<a>\n <b x=1 y=\"2 z='3\">\n </b>\n <c x=\"<\" q/>&</a>\n</b>\nrest",
+    row("<a>\n <b x=1 y=\"2 z=\"3\">\n </b>\n <c x=\"<\" q/>&</a>\n</b>\nrest",
         {"2 the value \"1\" stands without quotes", "2 the quote that is opened here is not closed",
          "4 \"<\" in an attribute, it is written \"&lt;\"", "4 the attribute \"q\" of \"c\" has no value",
          "4 \"&\" that begins no reference, a plain one is written \"&amp;\"", "5 \"</b>\" closes nothing",
@@ -400,7 +400,8 @@ void TestSource::faults()
     QFETCH(const QByteArray, bytes);
     QFETCH(const Strings, told);
     Strings lines;
-    for (const Source::Fault& fault : Source::read(bytes).faults())
+    const Source source = Source::read(bytes);
+    for (const Source::Fault& fault : source.faults())
         lines.append(QString::number(fault.place.line) + ' ' + fault.message);
     QCOMPARE(lines, told);
 }
