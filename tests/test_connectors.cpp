@@ -5,8 +5,17 @@
 
 #include <QDomDocument>
 
+namespace LCD::MainConfigImpl {
+/// The catalogue behind the component, to be filled by hand.
+struct ConnectorConfigTest {
+    using Impl = ConnectorConfig::Impl;
+    static Impl& of(ConnectorConfig& component) { return *component._impl; }
+};
+} // namespace LCD::MainConfigImpl
+
 using namespace LCD::MainConfig;
 using LCD::MainConfigImpl::ConnectorConfig;
+using Test = LCD::MainConfigImpl::ConnectorConfigTest;
 using Sizes = std::vector<s_resolutionResolutionRatio>;
 
 namespace {
@@ -95,7 +104,7 @@ struct Load : CardFixture {
         good = connectors.readConfig(path, error);
     }
 
-    ConnectorConfig::Impl connectors;
+    Test::Impl connectors;
     bool good = false;
 };
 
@@ -138,7 +147,7 @@ private Q_SLOTS:
 void TestConnectors::fillsEachFieldFromItsAttribute()
 {
     const ConnectorFile file;
-    const ConnectorConfig::Impl reader;
+    const Test::Impl reader;
     const QDomElement quality = file.at("ImageQuality/Interface");
     QString error;
     s_ConnectorCfg read;
@@ -150,7 +159,7 @@ void TestConnectors::fillsEachFieldFromItsAttribute()
     QCOMPARE(numbersOf(read.player.autoPlayEnableSecond), numbersOf(read.player.autoPlayEnable));
 
     // A setting alone: neither step nor coefficient.
-    for (const auto readOne : {&ConnectorConfig::Impl::getAttribute, &ConnectorConfig::Impl::getRGB}) {
+    for (const auto readOne : {&Test::Impl::getAttribute, &Test::Impl::getRGB}) {
         s_RangeValue range;
         QVERIFY(!(reader.*readOne)(range, quality, QLatin1String("Alpha"), error));
         QCOMPARE(error + QString::number(range.max), QString("Invalid [Alpha] node.255"));
@@ -207,7 +216,7 @@ void TestConnectors::chargesAnAbsence()
     QString error = "untouched";
     s_ConnectorCfg read;
     const LogLines lines;
-    QCOMPARE(ConnectorConfig::Impl().readConfigConnector(file.at(""), error, read), cost != "connector");
+    QCOMPARE(Test::Impl().readConfigConnector(file.at(""), error, read), cost != "connector");
     QCOMPARE(error, cost == "nothing" ? "untouched" : message);
     QCOMPARE(lines.taken(), logged ? QStringList("Log: " + message) : QStringList());
     // The numbers that stay are those of the file without the missing element and without what its absence costs.
@@ -305,7 +314,7 @@ void TestConnectors::offersResolutions()
 {
     QFETCH(QString, medium);
     QFETCH(QVector<int>, query);
-    ConnectorConfig::Impl known;
+    Test::Impl known;
     known.resolutions.capacityModes = {
         {0, {{800, 600}, {1024, 768}, {1920, 1080}, {1920, 1080, 0, 0}}},
         {medium == "missing" ? 9 : 1, medium == "empty" ? Sizes() : Sizes{{2560, 1440}, {3840, 2160}}},
@@ -328,7 +337,7 @@ void TestConnectors::looksBeyondTheFirstConnector()
     second.hpds.interfaces = {{{}, 1, {{}, 1}}, {{}, 2, {{}, 2}}};
     first.presetTimings = {{1, {}, {}, {}, {}, 1.0F, {10}, {}, {}}};
     second.presetTimings = {{6, {}, {}, {}, {}, 2.0F, {20}, {}, {}}};
-    ConnectorConfig::Impl known;
+    Test::Impl known;
     known.connectors = {{{first}}, {}, {{second, masked}}};
 
     QVERIFY(known.copyOf(1, &s_ConnectorCfg::edid)->support == 1 && known.hpd(1)->value == 2 && !known.hpd(2));

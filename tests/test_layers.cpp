@@ -1,6 +1,6 @@
 // The layer file, from one tree of its elements.
 #include "deviceconfig.h"
-#include "layerconfigmanager.h"
+#include "layerconfig.h"
 #include "support.h"
 #include "tree.h"
 

@@ -1,6 +1,6 @@
 // The slot file: its required elements, the differences between the classes of card, and its walks. And the lives of
 // the readers that are made on first use.
-#include "layerconfigmanager.h"
+#include "layerconfig.h"
 #include "screenconfigmanager.h"
 #include "silkconfigmanager.h"
 #include "slotconfigmanager.h"

@@ -2,6 +2,7 @@
 #ifndef KPMSDK_API_H
 #define KPMSDK_API_H
 
+/// The component frame: the contract between a host process and its plug-ins.
 namespace kpm {
 
 /// The host's service object. The entry order is the contract; it is never destroyed through this class, hence no
@@ -22,10 +23,11 @@ protected:
 
 /// Three words of which the first is the host's service object.
 struct HostHandle {
-    IHostService* service;
-    void* reserved[2];
+    IHostService* service; ///< The host's service object; null before the plug-in's entry point was called.
+    void* reserved[2];     ///< Room that is never used; null.
 };
 
+/// A plug-in's way back to its host.
 namespace api {
 
 /// The plug-in's handle of its host: all zero until the plug-in's entry point sets the service.

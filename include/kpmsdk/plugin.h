@@ -9,11 +9,11 @@ namespace kpm {
 
 /// What a plug-in says of itself.
 struct PluginInfo {
-    const char* formatVersion;
-    ComponentInfo* const* componentTable; ///< Ends with a null pointer.
-    const char* name;
-    const char* version;
-    const char* metadata; ///< Text for the host.
+    const char* formatVersion;            ///< Version of this record's form, "0.1".
+    ComponentInfo* const* componentTable; ///< The plug-in's component classes; ends with a null pointer.
+    const char* name;                     ///< Name of the plug-in, "lcdmainconfigimpl".
+    const char* version;                  ///< Version of the plug-in, "1.0.0".
+    const char* metadata;                 ///< Text for the host, which alone knows its form.
 };
 
 using PluginInfoFunction = const PluginInfo*();             ///< Symbol "pluginfo"; may be called before pluginit.

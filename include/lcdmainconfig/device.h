@@ -17,11 +17,12 @@ namespace LCD::MainConfig {
 /// One device. A file that cannot be read costs its own contribution alone, so that any member may stand at its
 /// defaults.
 struct s_Device {
-    s_DeviceFeature feature;             ///< Feature file; its `moduleId` is the device's key.
-    s_Slots slots;                       ///< Slot file.
-    QVector<s_DCSLayer> layers;          ///< One entry for each layer file, by file name.
-    QVector<s_DCSScreen> screens;        ///< One entry for each screen file, by file name.
-    std::vector<s_SilkOrder> silkOrders; ///< All silk files, joined by file name.
+    s_DeviceFeature feature;      ///< What the device can do. Feature file; its `moduleId` is the device's key.
+    s_Slots slots;                ///< Card slots of the chassis. Slot file.
+    QVector<s_DCSLayer> layers;   ///< Layer types, one for each layer file, by file name.
+    QVector<s_DCSScreen> screens; ///< Screen types, one for each screen file, by file name.
+    /// Counting order of the printed connectors. All silk files, joined by file name.
+    std::vector<s_SilkOrder> silkOrders;
 };
 
 } // namespace LCD::MainConfig

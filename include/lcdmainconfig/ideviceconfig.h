@@ -21,7 +21,7 @@ namespace LCD::MainConfig {
 /// to the caller.
 ///
 /// Queries never fail but by an empty result: a null pointer, an empty text or list, false or 0. With no device they
-/// warn "could not find device(%1)'s cfg.", unless told otherwise, after the warning of findDeviceModelId(). With
+/// warn `"could not find device(%1)'s cfg."`, unless told otherwise, after the warning of findDeviceModelId(). With
 /// several screens or layers of one type the first in the list answers.
 class IDeviceConfig {
 public:
@@ -67,14 +67,14 @@ public:
     /// such layer type. Layer file, "Layer/Window".
     virtual s_LayerWindow findLayerWindowDefaultRange(int layerType) const = 0;
 
-    /// The whole screen type. Null, with the warning "could not find screen type(%1)'s cfg.", if there is none. Screen
-    /// file, "Screen".
+    /// The whole screen type. Null, with the warning `"could not find screen type(%1)'s cfg."`, if there is none.
+    /// Screen file, "Screen".
     virtual std::shared_ptr<s_Screen> screenConfigs(int screenType) const = 0;
 
     /// The counting order of the connectors on the chassis; an empty list if no file gives one. Silk files, "Keys/Key".
     virtual std::shared_ptr<std::vector<s_SilkOrder>> silkConfigs() const = 0;
 
-    /// The whole layer type. Null, with the warning "could not find layer type(%1)'s cfg.", if there is none. Layer
+    /// The whole layer type. Null, with the warning `"could not find layer type(%1)'s cfg."`, if there is none. Layer
     /// file, "Layer".
     virtual std::shared_ptr<s_Layer> layerConfigs(int layerType) const = 0;
 
@@ -103,7 +103,7 @@ public:
     /// Mosaic sources and their templates; defaults if the file has none. Feature file, "Device/MosaicSource".
     virtual std::shared_ptr<s_MOSAICSource> inputMOSAICConfigs() const = 0;
 
-    /// The keying of a layer type. Null, with the warning "could not find layer type:(%1)'s cfg.", if there is none;
+    /// The keying of a layer type. Null, with the warning `"could not find layer type:(%1)'s cfg."`, if there is none;
     /// the colon, which layerConfigs() lacks, is meant. Layer file, "Layer/CutoutGeneral".
     virtual std::shared_ptr<s_LayerCutoutGeneral> layerCutoutConfigs(int layerType) const = 0;
 
@@ -140,7 +140,7 @@ public:
     virtual std::shared_ptr<s_Genlock> genlockScreenConfigs(int screenType) const = 0;
 
     /// The relative path of a storage place, UTF-8; empty, and no warning, if the file names none. A number outside the
-    /// enumeration gives an empty text and the warning "%1 get RelativePath is empty". Feature file,
+    /// enumeration gives an empty text and the warning `"%1 get RelativePath is empty"`. Feature file,
     /// "Device/TemplateResource", attribute "TargetPath" of its children.
     virtual std::string getRelativePath(RelativePathType type) const = 0;
 };

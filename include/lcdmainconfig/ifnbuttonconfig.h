@@ -10,6 +10,7 @@
 
 namespace LCD::MainConfig {
 
+/// The factory bindings of the function buttons. Panel file "fnkeyboardconfig.xml", root LCD. Every result is a copy.
 class IFNButtonConfig {
 public:
     virtual ~IFNButtonConfig() = default;
@@ -21,21 +22,21 @@ public:
     virtual bool readConfig(const QString& dir, QString& error) = 0;
 
     /// "DefaultVal", attribute "val": the type of a button without one. 0 before a load.
-    virtual int findFNBtnDefaultValue() const = 0;
+    virtual int findFNBtnDefaultValue() = 0;
 
     /// "MaxCount", attribute "count": how many function buttons there are. 0 before a load.
-    virtual int findFNBtnMaxCount() const = 0;
+    virtual int findFNBtnMaxCount() = 0;
 
     /// The attributes "name" of the elements of "Sequence", in file order. Empty before a load.
-    virtual QVector<QString> findSequenceStrArray() const = 0;
+    virtual QVector<QString> findSequenceStrArray() = 0;
 
     /// The "FN" elements of "DefaultBindings", in file order. Empty before a load. A file without "DefaultBindings"
     /// leaves them as they were.
-    virtual QVector<s_FnDefaultBinding> findDefaultBindings() const = 0;
+    virtual QVector<s_FnDefaultBinding> findDefaultBindings() = 0;
 
     /// The first binding with that index. If there is none, one is made: key code index + 321, the default value as
     /// type, target 0, no remark.
-    virtual s_FnDefaultBinding findDefaultBindingByIndex(int index) const = 0;
+    virtual s_FnDefaultBinding findDefaultBindingByIndex(int index) = 0;
 };
 
 } // namespace LCD::MainConfig

@@ -9,6 +9,8 @@
 
 namespace LCD::MainConfig {
 
+/// The keys of the keyboard self-test, in three lists. Panel files of one directory, "LcdKeys" below the root LCD.
+/// Every result is a copy; before a load the lists are empty.
 class IKeyCheckConfig {
 public:
     virtual ~IKeyCheckConfig() = default;

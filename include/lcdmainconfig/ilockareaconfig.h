@@ -6,6 +6,7 @@
 
 namespace LCD::MainConfig {
 
+/// The groups of keys that can be locked together. Panel file, "LockAreas" below the root LCD.
 class ILockAreaConfig {
 public:
     virtual ~ILockAreaConfig() = default;

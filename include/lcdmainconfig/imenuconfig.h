@@ -12,6 +12,7 @@
 
 namespace LCD::MainConfig {
 
+/// The tree of the panel's menus. Panel file "menuconfig.xml", the first element of "MenuBar" below the root LCD.
 class IMenuConfig {
 public:
     virtual ~IMenuConfig() = default;

@@ -4,12 +4,12 @@
 
 namespace LCD::MainConfig {
 
-/// One entry of the section "SourceCustomSort": its name is two numbers joined by "_", its value a third. A piece that
-/// is not a number reads as 0.
+/// One entry of the user's own order of sources: section "SourceCustomSort" of the settings. Its name is two numbers
+/// joined by "_", its value a third; a piece that is not a number reads as 0.
 struct s_SourceCustomSort {
-    int first = 0;  ///< The entry's name before the "_".
-    int second = 0; ///< The entry's name after the "_".
-    int value = 0;  ///< The entry's value.
+    int first = 0;  ///< First number of the source, before the "_"; the panel knows its meaning.
+    int second = 0; ///< Second number of the source, after the "_"; the panel knows its meaning.
+    int value = 0;  ///< Place of the source in the order.
 };
 
 } // namespace LCD::MainConfig

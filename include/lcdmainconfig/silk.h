@@ -5,11 +5,12 @@
 
 namespace LCD::MainConfig {
 
-/// One printed connector: silk file, element "Device/Keys/Key". Nothing is sorted or checked for duplicates.
+/// One printed connector. Silk file, a child of Device/Keys from the first "Key" on. Nothing is sorted or checked for
+/// duplicates; an absent attribute reads as 0.
 struct s_SilkOrder {
-    int slot = 0;      ///< Attribute "Slot": index of the slot.
-    int connector = 0; ///< Attribute "Connector": the connector within the slot's card.
-    int order = 0;     ///< Attribute "Order": its place in the count.
+    int slot = 0;      ///< Slot that the connector is in, by its index. Attribute "Slot".
+    int connector = 0; ///< Connector on the card in that slot, by its position. Attribute "Connector".
+    int order = 0;     ///< Place of the connector in the count over the whole chassis. Attribute "Order".
 };
 
 } // namespace LCD::MainConfig

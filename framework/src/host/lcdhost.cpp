@@ -110,7 +110,7 @@ QString strayOption(const QCommandLineParser& parser, const Command& command)
 
 bool hasFolders(const QString& root)
 {
-    return std::any_of(Session::folders().begin(), Session::folders().end(),
+    return std::any_of(folders().begin(), folders().end(),
                        [&root](const Folder& folder) { return QFileInfo(root + '/' + folder.name).isDir(); });
 }
 

@@ -238,7 +238,7 @@ private:
 
     void addKeys()
     {
-        const Lcd::IFNButtonConfig& keys = _session.functionKeys();
+        Lcd::IFNButtonConfig& keys = _session.functionKeys();
         const int bindings = keys.findDefaultBindings().size();
         add("Function buttons", Catalogue::FunctionKeys, keys.findFNBtnMaxCount(),
             bindings == 0 ? QString() : QString("%1 with a factory binding").arg(bindings));

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <memory>
 #include <tuple>
-#include <type_traits>
 
 namespace lcdhost {
 namespace {
@@ -24,17 +23,6 @@ void keepWarning(QtMsgType type, const QMessageLogContext& /*where*/, const QStr
 {
     if (type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(text));
     if (type == QtWarningMsg || type == QtCriticalMsg) warnings().append(text);
-}
-
-template <class Interface> bool read(void* component, const QString& path, QString& error)
-{
-    auto& config = *static_cast<Interface*>(component);
-    if constexpr (std::is_same_v<Interface, Lcd::ILockAreaConfig>)
-        return config.readConfig(path + "/lockareaconfig.xml", error);
-    else if constexpr (requires { config.readConfig(path, error); })
-        return config.readConfig(path, error);
-    else
-        return config.readConfig(path);
 }
 
 /// One line, without the word that the library puts before a text which it also hands out in another way.
@@ -58,37 +46,7 @@ QStringList reports(const Folder& folder, void* component, const QString& path, 
     return texts;
 }
 
-/// Every file that a component may read in a folder: those of the folder itself, for cards also those one level below.
-QStringList filesOf(const Folder& folder, const QString& path)
-{
-    QStringList places{path};
-    if (folder.catalogue == Catalogue::Cards)
-        for (const QFileInfo& below : QDir(path).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot))
-            places.append(below.filePath());
-    QStringList files;
-    for (const QString& place : places)
-        for (const QFileInfo& file : QDir(place).entryInfoList({"*.xml"})) files.append(file.filePath());
-    return files;
-}
-
 } // namespace
-
-const std::vector<Folder>& Session::folders()
-{
-    // clang-format off
-    static const std::vector<Folder> all{
-        {Catalogue::Devices,      "devices",    "lcd.deviceconfig",    nullptr,                read<Lcd::IDeviceConfig>},
-        {Catalogue::Cards,        "subcards",   "lcd.subcardconfig",   nullptr,                read<Lcd::ISubcardConfig>},
-        {Catalogue::Connectors,   "connectors", "lcd.connectorconfig", nullptr,                read<Lcd::IConnectorConfig>},
-        {Catalogue::Menu,         "menu",       "lcd.menuconfig",      "menuconfig.xml",       read<Lcd::IMenuConfig>},
-        {Catalogue::FunctionKeys, "fnbutton",   "lcd.fnbuttonconfig",  "fnkeyboardconfig.xml", read<Lcd::IFNButtonConfig>},
-        {Catalogue::KeyChecks,    "keycheck",   "lcd.keycheckconfig",  nullptr,                read<Lcd::IKeyCheckConfig>},
-        {Catalogue::LockAreas,    "lockarea",   "lcd.lockareaconfig",  "lockareaconfig.xml",   read<Lcd::ILockAreaConfig>},
-        {Catalogue::Settings,     "settings",   "lcd.lcdconfig",       "lcdsetting.ini",       read<Lcd::ILcdConfig>},
-    };
-    // clang-format on
-    return all;
-}
 
 Session::Session(QString root, const QString& language) : _root(std::move(root)), _english(language == "en")
 {
@@ -110,9 +68,7 @@ bool Session::open(const QString& pluginPath)
     return _error.isEmpty();
 }
 
-QString Session::pathOf(const Folder& folder) const { return QDir(_root).filePath(folder.name); }
-
-bool Session::has(Catalogue catalogue) const { return QFileInfo(pathOf(folders()[std::size_t(catalogue)])).isDir(); }
+bool Session::has(Catalogue catalogue) const { return QFileInfo(pathOf(_root, folderOf(catalogue))).isDir(); }
 
 QStringList Session::takeWarnings() { return std::exchange(warnings(), {}); }
 
@@ -123,12 +79,12 @@ void Session::loadAll()
 
 void Session::load(Catalogue catalogue)
 {
-    const Folder& folder = folders()[std::size_t(catalogue)];
-    const QString path = pathOf(folder);
+    const Folder& folder = folderOf(catalogue);
+    const QString path = pathOf(_root, folder);
     if (!has(catalogue)) return note(path, QStringList{"not there"});
     if (catalogue != Catalogue::Devices) return loadFolder(folder, path);
-    const QFileInfoList devices = QDir(path).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-    for (const QFileInfo& device : devices) loadFolder(folder, device.filePath());
+    const QStringList devices = deviceFolders(_root);
+    for (const QString& device : devices) loadFolder(folder, device);
     if (devices.isEmpty()) note(path, {"holds no device folder"});
 }
 

@@ -3,6 +3,7 @@
 #ifndef LCDHOST_SESSION_H
 #define LCDHOST_SESSION_H
 
+#include "common/layout.h"
 #include "kpmhost.h"
 
 #include <lcdmainconfig/iconnectorconfig.h>
@@ -25,21 +26,10 @@
 namespace lcdhost {
 
 namespace Lcd = LCD::MainConfig;
+using namespace lcdcommon;
 
 /// The component of the user's settings, which stand outside every configuration root.
 inline constexpr char USER_SETTINGS[] = "lcd.lcdlanguageconfig";
-
-/// The catalogues of a configuration root, in the order in which they must be read.
-enum class Catalogue { Devices, Cards, Connectors, Menu, FunctionKeys, KeyChecks, LockAreas, Settings };
-
-/// A catalogue's place in the root.
-struct Folder {
-    Catalogue catalogue;
-    const char* name;
-    const char* component;
-    const char* file; ///< The one file that is read there; null when there may be many.
-    bool (*read)(void* component, const QString& path, QString& error);
-};
 
 /// One thing that the library, or the program itself, found wrong.
 struct Problem {
@@ -89,14 +79,12 @@ public:
     [[nodiscard]] QString cardName(const Lcd::s_DCSSubcard& cards, std::uint64_t model) const;
 
     [[nodiscard]] const QString& root() const { return _root; }
-    static const std::vector<Folder>& folders();
 
 private:
     template <class Interface> [[nodiscard]] Interface& get(const char* id) const
     {
         return *_host.component<Interface>(id);
     }
-    [[nodiscard]] QString pathOf(const Folder& folder) const;
     void loadFolder(const Folder& folder, const QString& path);
     void diagnose(const Folder& folder, const QString& path, QStringList unexplained);
     [[nodiscard]] QStringList reportsOfFile(const Folder& folder, const QString& path, const QString& file) const;

@@ -13,7 +13,7 @@ namespace {
 /// A name and the getter of one value.
 template <class Config> struct Value {
     const char* name;
-    std::variant<int (Config::*)() const, QString (Config::*)() const> getter;
+    std::variant<int (Config::*)(), QString (Config::*)()> getter;
 };
 
 using Factory = Lcd::ILcdConfig;
@@ -67,11 +67,10 @@ const Value<User> USER[] = {
 };
 // clang-format on
 
-template <class Config> QString read(const Config& config, const Value<Config>& value)
+template <class Config> QString read(Config& config, const Value<Config>& value)
 {
-    if (const auto* const getter = std::get_if<int (Config::*)() const>(&value.getter))
-        return number((config.**getter)());
-    const QString text = (config.*std::get<QString (Config::*)() const>(value.getter))();
+    if (const auto* const getter = std::get_if<int (Config::*)()>(&value.getter)) return number((config.**getter)());
+    const QString text = (config.*std::get<QString (Config::*)()>(value.getter))();
     return text.isEmpty() ? "-" : text;
 }
 
@@ -82,7 +81,7 @@ void addKey(Table& table, int index, const QString& value)
 
 void tellFactory(const Session& session, Page& page, int functionKeys)
 {
-    const Factory& config = session.settings();
+    Factory& config = session.settings();
     Table table({words("Setting"), words("Value")});
     for (const auto& value : FACTORY) table.add({value.name, read(config, value)});
     const auto [offColour, brightness] = config.getOffLightColorValue();
@@ -112,7 +111,7 @@ QString shownCamera(int entry, const QString& value)
 
 void tellUser(const Session& session, Page& page, int functionKeys)
 {
-    const User& config = session.userSettings();
+    User& config = session.userSettings();
     Table table({words("Setting"), words("Value")});
     for (const auto& value : USER) table.add({value.name, read(config, value)});
     const auto [min, max] = config.getTBarCalibration();

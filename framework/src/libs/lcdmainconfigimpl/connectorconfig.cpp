@@ -98,12 +98,12 @@ bool ConnectorConfig::Impl::readFile(const QString& filePath, QString& error)
     bool failed = false;
     const auto content = Reader(document.documentElement(), report, failed).firstChild();
     if (!content) return true;
-    if (content->tag() == QLatin1String("ResolutionRatios")) {
+    if (content->is("ResolutionRatios")) {
         if (readConfigResolution(content->element(), resolutions)) return true;
         error = QStringLiteral("Resolution file parsed error.");
         return false;
     }
-    if (content->tag() == QLatin1String("Connectors")) {
+    if (content->is("Connectors")) {
         s_DCSConnector file;
         content->each(Walk::Any, "Connector", [&](const Reader& in) {
             s_ConnectorCfg connector;

@@ -12,8 +12,6 @@ using namespace LCD::MainConfig;
 
 class ConnectorConfig final : public IConnectorConfig {
 public:
-    class Impl;
-
     ConnectorConfig();
     ~ConnectorConfig() override;
     ConnectorConfig(const ConnectorConfig&) = delete;
@@ -40,6 +38,9 @@ public:
     s_PreSetTimingInterface findConnectorTiming(int type, int interfaceMask) override;
 
 private:
+    friend struct ConnectorConfigTest; // Fills the catalogue by hand.
+
+    class Impl;
     std::unique_ptr<Impl> _impl;
 };
 

@@ -17,9 +17,8 @@ void readDefaultResolution(const Reader& in, s_ResolutionRatio& resolution)
     in.element("RefreshRate", OnNull::Fail, resolution,        part(&s_ResolutionRatio::refreshRate, range), Coefficient);
 }
 
-void readDirection(const Reader& in, s_ConnectorHorizontal& direction)
+void readTimes(const Reader& in, s_ConnectorHorizontal& direction)
 {
-    in.read(direction, flags);
     in.element("AddTime",    OnNull::Fail, direction.addTime,    limits);
     in.element("FrontPorch", OnNull::Fail, direction.frontPorch, limits);
     in.element("Sync",       OnNull::Fail, direction.sync,       limits);
@@ -30,8 +29,9 @@ void readCustomTiming(const Reader& in, s_ResolutionRatios::s_AdvResolutionRatio
 {
     in.read(timing, flags);
     in.element("Refresh",    OnNull::Fail, timing.refresh,    range);
-    in.element("Horizontal", OnNull::Fail, timing.horizontal, readDirection);
-    in.element("Vertical",   OnNull::Fail, timing.vertical,   readDirection);
+    in.element("Horizontal", OnNull::Fail, timing.horizontal, flags, readTimes);
+    // It is meant that the flags of "Vertical" are not read, unlike those of a preset timing.
+    in.element("Vertical",   OnNull::Fail, timing.vertical,   readTimes);
 }
 
 void readResolutionRatios(const Reader& in, s_ResolutionRatios& ratios)

@@ -2,7 +2,7 @@
 #include "deviceconfig.h"
 
 #include "devicefeatureconfig.h"
-#include "layerconfigmanager.h"
+#include "layerconfig.h"
 #include "reading/directory.h"
 #include "reading/document.h"
 #include "screenconfigmanager.h"

@@ -8,6 +8,8 @@
 #include <QDebug>
 #include <QVariant>
 
+#include <utility>
+
 namespace LCD::MainConfigImpl {
 namespace {
 
@@ -94,7 +96,8 @@ std::uint64_t DeviceConfig::findSubcardModelId(int slotIndex) const
 
 bool DeviceConfig::findSlotConnectors(int deviceId, int slotIndex, int moduleId, std::vector<s_Slot>& out)
 {
-    for (const s_Device& device : _devices) {
+    // A walk over the list as it is would detach it while somebody holds a copy, and free what others refer to.
+    for (const s_Device& device : std::as_const(_devices)) {
         if (deviceKey(device) != static_cast<std::uint64_t>(deviceId)) continue;
         for (const s_SlotAttr* const slotClass : slotClasses(device.slots))
             for (const s_Slot& slot : slotClass->slots) {

@@ -34,7 +34,7 @@ void readNetwork(const Reader& in, s_Network& network)
     in.element("Dhcp",    OnNull::Fail, network.dhcp,       flags, Value("0"), DataType("0"), enums(Walk::FirstNamed));
     in.element("Ip",      OnNull::Fail, network.ip,         address);
     // The mask repeats the address; "SubNetMask" itself only has to be there, which is meant.
-    if (!in.has("SubNetMask")) in.fail("SubNetMask");
+    in.demand("SubNetMask");
     in.element("Ip",      OnNull::Fail, network.subNetMask, address);
     in.element("Gateway", OnNull::Fail, network.gateway,    address);
 }

@@ -73,15 +73,15 @@ bool FNButtonConfig::readConfig(const QString& dir, QString& error)
                         _impl->defaults, readDefaults);
 }
 
-int FNButtonConfig::findFNBtnDefaultValue() const { return _impl->defaults.defaultVal; }
+int FNButtonConfig::findFNBtnDefaultValue() { return _impl->defaults.defaultVal; }
 
-int FNButtonConfig::findFNBtnMaxCount() const { return _impl->defaults.maxCount; }
+int FNButtonConfig::findFNBtnMaxCount() { return _impl->defaults.maxCount; }
 
-QVector<QString> FNButtonConfig::findSequenceStrArray() const { return _impl->defaults.sequence; }
+QVector<QString> FNButtonConfig::findSequenceStrArray() { return _impl->defaults.sequence; }
 
-QVector<s_FnDefaultBinding> FNButtonConfig::findDefaultBindings() const { return _impl->defaults.bindings; }
+QVector<s_FnDefaultBinding> FNButtonConfig::findDefaultBindings() { return _impl->defaults.bindings; }
 
-s_FnDefaultBinding FNButtonConfig::findDefaultBindingByIndex(int index) const
+s_FnDefaultBinding FNButtonConfig::findDefaultBindingByIndex(int index)
 {
     if (const auto* binding = firstWhere(_impl->defaults.bindings, &s_FnDefaultBinding::index, index)) return *binding;
     const int lcdKey = static_cast<int>(static_cast<unsigned>(index) + FIRST_KEY_CODE);

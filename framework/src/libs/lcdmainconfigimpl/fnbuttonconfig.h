@@ -18,11 +18,11 @@ public:
     FNButtonConfig& operator=(const FNButtonConfig&) = delete;
 
     bool readConfig(const QString& dir, QString& error) override;
-    int findFNBtnDefaultValue() const override;
-    int findFNBtnMaxCount() const override;
-    QVector<QString> findSequenceStrArray() const override;
-    QVector<s_FnDefaultBinding> findDefaultBindings() const override;
-    s_FnDefaultBinding findDefaultBindingByIndex(int index) const override;
+    int findFNBtnDefaultValue() override;
+    int findFNBtnMaxCount() override;
+    QVector<QString> findSequenceStrArray() override;
+    QVector<s_FnDefaultBinding> findDefaultBindings() override;
+    s_FnDefaultBinding findDefaultBindingByIndex(int index) override;
 
 private:
     class Impl;

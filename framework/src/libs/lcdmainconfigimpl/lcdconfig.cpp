@@ -100,35 +100,35 @@ bool LcdConfig::readConfig(const QString& dir)
 }
 
 // clang-format off
-int     LcdConfig::getReturnToHomeTime() const              { return _impl->number(RETURN_TO_HOME,         0); }
-int     LcdConfig::getUserModeSettingValue() const          { return _impl->number(USER_MODE,              0); }
-int     LcdConfig::getDevLockStatusValue() const            { return _impl->number(DEV_LOCK_STATUS,        0); }
-int     LcdConfig::getLightOnSupportValue() const           { return _impl->number(LIGHT_ON_SUPPORT,       0); }
-QString LcdConfig::getLanguage() const                      { return _impl->text(LANGUAGE,                 ""); }
-QString LcdConfig::getDefaultLanguage() const               { return _impl->text(LANGUAGE_DEFAULT,         ""); }
-int     LcdConfig::getLightBreathSupportValue() const       { return _impl->number(LIGHT_BREATH_SUPPORT,   0); }
-int     LcdConfig::getLightColorValue() const               { return _impl->number(LIGHT_COLOR,            0); }
-int     LcdConfig::getAspectRatioValue() const              { return _impl->number(ASPECT_RATIO,           0); }
-int     LcdConfig::getKeySamplingTime() const               { return _impl->number(KEY_SAMPLING,           0); }
-QString LcdConfig::getKeySenderIp() const                   { return _impl->text(KEY_SENDER_IP,            "192.168.0.55"); }
-int     LcdConfig::getUISupportPartition() const            { return _impl->number(UI_SUPPORT_PARTITION,   0); }
-int     LcdConfig::getTitleSupportCenter() const            { return _impl->number(TITLE_SUPPORT_CENTER,   0); }
-int     LcdConfig::getHttpPort() const                      { return _impl->number(HTTP_PORT,              19999); }
-int     LcdConfig::getWebSocketPort() const                 { return _impl->number(WEB_SOCKET_PORT,        19999); }
-int     LcdConfig::getSupprotMenuHide() const               { return _impl->number(MENU_HIDE,              0); }
-int     LcdConfig::getPlaySupportConnectorType() const      { return _impl->number(PLAY_CONNECTOR_TYPE,    0); }
-int     LcdConfig::getSupprotLSourceCapacityDisplay() const { return _impl->number(CAPACITY_DISPLAY,       0); }
-int     LcdConfig::getScreenWidth() const                   { return _impl->number(SCREEN_WIDTH,           480); }
-QString LcdConfig::getDeviceRelativePath() const            { return _impl->text(RELATIVE_STORAGE_PATH,    ""); }
-QString LcdConfig::getCompanyMailDefault() const            { return _impl->text(COMPANY_MAIL,             ""); }
-QString LcdConfig::getCompanyAddressDefault() const         { return _impl->textUnlocked(COMPANY_ADDRESS,  ""); } // no lock, which is meant
-QString LcdConfig::getSwitchBackGround() const              { return _impl->textUnlocked(SWITCH_BACKGROUND, ""); } // no lock, which is meant
-int     LcdConfig::getSupportAssess() const                 { return _impl->number(SUPPORT_ASSESS,         0); }
-int     LcdConfig::getSupportUpgradeWaitDlg() const         { return _impl->number(UPGRADE_WAITING_DIALOG, 0); }
-int     LcdConfig::getSupportScale() const                  { return _impl->number(SUPPORT_SCALE,          1); }
-int     LcdConfig::getDomesticDevice() const                { return _impl->number(DOMESTIC_DEVICE,        1); }
-int     LcdConfig::getSupportUsbKeyboard() const            { return _impl->number(USB_KEYBOARD,           0); }
-int     LcdConfig::getFnSettingValue(int index) const       { return _impl->number(fnKey(index),           0); }
+int     LcdConfig::getReturnToHomeTime()              { return _impl->number(RETURN_TO_HOME,         0); }
+int     LcdConfig::getUserModeSettingValue()          { return _impl->number(USER_MODE,              0); }
+int     LcdConfig::getDevLockStatusValue()            { return _impl->number(DEV_LOCK_STATUS,        0); }
+int     LcdConfig::getLightOnSupportValue()           { return _impl->number(LIGHT_ON_SUPPORT,       0); }
+QString LcdConfig::getLanguage()                      { return _impl->text(LANGUAGE,                 ""); }
+QString LcdConfig::getDefaultLanguage()               { return _impl->text(LANGUAGE_DEFAULT,         ""); }
+int     LcdConfig::getLightBreathSupportValue()       { return _impl->number(LIGHT_BREATH_SUPPORT,   0); }
+int     LcdConfig::getLightColorValue()               { return _impl->number(LIGHT_COLOR,            0); }
+int     LcdConfig::getAspectRatioValue()              { return _impl->number(ASPECT_RATIO,           0); }
+int     LcdConfig::getKeySamplingTime()               { return _impl->number(KEY_SAMPLING,           0); }
+QString LcdConfig::getKeySenderIp()                   { return _impl->text(KEY_SENDER_IP,            "192.168.0.55"); }
+int     LcdConfig::getUISupportPartition()            { return _impl->number(UI_SUPPORT_PARTITION,   0); }
+int     LcdConfig::getTitleSupportCenter()            { return _impl->number(TITLE_SUPPORT_CENTER,   0); }
+int     LcdConfig::getHttpPort()                      { return _impl->number(HTTP_PORT,              19999); }
+int     LcdConfig::getWebSocketPort()                 { return _impl->number(WEB_SOCKET_PORT,        19999); }
+int     LcdConfig::getSupprotMenuHide()               { return _impl->number(MENU_HIDE,              0); }
+int     LcdConfig::getPlaySupportConnectorType()      { return _impl->number(PLAY_CONNECTOR_TYPE,    0); }
+int     LcdConfig::getSupprotLSourceCapacityDisplay() { return _impl->number(CAPACITY_DISPLAY,       0); }
+int     LcdConfig::getScreenWidth()                   { return _impl->number(SCREEN_WIDTH,           480); }
+QString LcdConfig::getDeviceRelativePath()            { return _impl->text(RELATIVE_STORAGE_PATH,    ""); }
+QString LcdConfig::getCompanyMailDefault()            { return _impl->text(COMPANY_MAIL,             ""); }
+QString LcdConfig::getCompanyAddressDefault()         { return _impl->textUnlocked(COMPANY_ADDRESS,  ""); } // no lock, which is meant
+QString LcdConfig::getSwitchBackGround()              { return _impl->textUnlocked(SWITCH_BACKGROUND, ""); } // no lock, which is meant
+int     LcdConfig::getSupportAssess()                 { return _impl->number(SUPPORT_ASSESS,         0); }
+int     LcdConfig::getSupportUpgradeWaitDlg()         { return _impl->number(UPGRADE_WAITING_DIALOG, 0); }
+int     LcdConfig::getSupportScale()                  { return _impl->number(SUPPORT_SCALE,          1); }
+int     LcdConfig::getDomesticDevice()                { return _impl->number(DOMESTIC_DEVICE,        1); }
+int     LcdConfig::getSupportUsbKeyboard()            { return _impl->number(USB_KEYBOARD,           0); }
+int     LcdConfig::getFnSettingValue(int index)       { return _impl->number(fnKey(index),           0); }
 
 void LcdConfig::setReturnToHomeTime(int value)              { _impl->set(RETURN_TO_HOME,       value); }
 void LcdConfig::setUserModeSettingValue(int value)          { _impl->set(USER_MODE,            value); }
@@ -141,7 +141,7 @@ void LcdConfig::setAspectRatioValue(int value)              { _impl->set(ASPECT_
 void LcdConfig::setFnSettingValue(int index, int value)     { _impl->setNow(fnKey(index),      value); }
 // clang-format on
 
-std::pair<int, int> LcdConfig::getOffLightColorValue() const
+std::pair<int, int> LcdConfig::getOffLightColorValue()
 {
     return _impl->read(std::pair{7, 25}, [](const QSettings& setting) {
         return std::pair{setting.value(OFF_LIGHT_COLOR).toInt(), setting.value(OFF_LIGHT_BRIGHTNESS).toInt()};
@@ -155,11 +155,11 @@ void LcdConfig::setALLFnSettingValue(int value)
     for (int index = 0; index < _impl->fnBtnMaxCount; ++index) setFnSettingValue(index, value);
 }
 
-int LcdConfig::getPgmEditStatusOnWorkMode(int workMode) const { return _impl->statusOf(PGM_EDIT_FACTORY, workMode); }
+int LcdConfig::getPgmEditStatusOnWorkMode(int workMode) { return _impl->statusOf(PGM_EDIT_FACTORY, workMode); }
 
-int LcdConfig::getCurrentPgmEditStatus(int workMode) const { return _impl->statusOf(PGM_EDIT_CURRENT, workMode); }
+int LcdConfig::getCurrentPgmEditStatus(int workMode) { return _impl->statusOf(PGM_EDIT_CURRENT, workMode); }
 
-std::map<int, int> LcdConfig::getPgmEditStatus() const
+std::map<int, int> LcdConfig::getPgmEditStatus()
 {
     return _impl->readOrWarn(std::map<int, int>{}, [](QSettings& setting) {
         const SettingsArray factory(setting, PGM_EDIT_FACTORY);
@@ -192,7 +192,7 @@ void LcdConfig::setCurrentPgmEditDefaultStatus()
     if (_impl->changeOrWarn(use)) linuxSync();
 }
 
-std::vector<int> LcdConfig::getInputListNoSupportConnectorType() const
+std::vector<int> LcdConfig::getInputListNoSupportConnectorType()
 {
     return _impl->readOrWarn(std::vector<int>{}, [](QSettings& setting) {
         const SettingsArray leftOut(setting, INPUT_LIST_LEFT_OUT);
@@ -203,7 +203,7 @@ std::vector<int> LcdConfig::getInputListNoSupportConnectorType() const
     });
 }
 
-bool LcdConfig::isSourceTypeUseGeneralName(int interfaceType, int connectorType) const
+bool LcdConfig::isSourceTypeUseGeneralName(int interfaceType, int connectorType)
 {
     return _impl->readOrWarn(false, [&](QSettings& setting) {
         const SettingsArray sources(setting, GENERAL_NAME_SOURCES);

@@ -91,19 +91,19 @@ bool LcdLanguageConfig::readConfig()
 }
 
 // clang-format off
-QString LcdLanguageConfig::getLanguage() const                      { return _impl->text(LANGUAGE,             ""); }
-int     LcdLanguageConfig::getReturnToHomeTime() const              { return _impl->number(RETURN_TO_HOME,     0); }
-int     LcdLanguageConfig::getUserModeSettingValue() const          { return _impl->number(USER_MODE,          0); }
-int     LcdLanguageConfig::getDevLockStatusValue() const            { return _impl->number(DEV_LOCK_STATUS,    0); }
-int     LcdLanguageConfig::getStartRecordStreamTriggerType() const  { return _impl->number(START_TRIGGER_TYPE, 0); }
-int     LcdLanguageConfig::getStopRecordStreamTriggerType() const   { return _impl->number(STOP_TRIGGER_TYPE,  0); }
-int     LcdLanguageConfig::getSourceSortType() const                { return _impl->number(SOURCE_SORT_TYPE,   0); }
-int     LcdLanguageConfig::getJumpFlag() const                      { return _impl->number(JUMP_FLAG,          0); }
-int     LcdLanguageConfig::getScreenLight() const                   { return _impl->number(SCREEN_LIGHT,       0); }
-int     LcdLanguageConfig::getKnobTimeOut() const                   { return _impl->number(KNOB_TIME_OUT,      -1); }
-int     LcdLanguageConfig::getFnSettingValue(int index) const           { return _impl->number(fnKey(FN_VALUE, index),       0); }
-int     LcdLanguageConfig::getFnSettingTargetValue(int index) const     { return _impl->number(fnKey(FN_TARGET, index),      0); }
-int     LcdLanguageConfig::getFnSettingTargetTypeValue(int index) const { return _impl->number(fnKey(FN_TARGET_TYPE, index), 0); }
+QString LcdLanguageConfig::getLanguage()                      { return _impl->text(LANGUAGE,             ""); }
+int     LcdLanguageConfig::getReturnToHomeTime()              { return _impl->number(RETURN_TO_HOME,     0); }
+int     LcdLanguageConfig::getUserModeSettingValue()          { return _impl->number(USER_MODE,          0); }
+int     LcdLanguageConfig::getDevLockStatusValue()            { return _impl->number(DEV_LOCK_STATUS,    0); }
+int     LcdLanguageConfig::getStartRecordStreamTriggerType()  { return _impl->number(START_TRIGGER_TYPE, 0); }
+int     LcdLanguageConfig::getStopRecordStreamTriggerType()   { return _impl->number(STOP_TRIGGER_TYPE,  0); }
+int     LcdLanguageConfig::getSourceSortType()                { return _impl->number(SOURCE_SORT_TYPE,   0); }
+int     LcdLanguageConfig::getJumpFlag()                      { return _impl->number(JUMP_FLAG,          0); }
+int     LcdLanguageConfig::getScreenLight()                   { return _impl->number(SCREEN_LIGHT,       0); }
+int     LcdLanguageConfig::getKnobTimeOut()                   { return _impl->number(KNOB_TIME_OUT,      -1); }
+int     LcdLanguageConfig::getFnSettingValue(int index)           { return _impl->number(fnKey(FN_VALUE, index),       0); }
+int     LcdLanguageConfig::getFnSettingTargetValue(int index)     { return _impl->number(fnKey(FN_TARGET, index),      0); }
+int     LcdLanguageConfig::getFnSettingTargetTypeValue(int index) { return _impl->number(fnKey(FN_TARGET_TYPE, index), 0); }
 
 void LcdLanguageConfig::setLanguage(const QString& language)          { _impl->set(LANGUAGE,           language); }
 void LcdLanguageConfig::setReturnToHomeTime(int value)                { _impl->set(RETURN_TO_HOME,     value); }
@@ -122,15 +122,15 @@ void LcdLanguageConfig::setFnSettingTargetValue(int index, int target)          
 void LcdLanguageConfig::setFnSettingTargetTypeValue(int index, int targetType)  { _impl->setNow(fnKey(FN_TARGET_TYPE, index), targetType); }
 // clang-format on
 
-int LcdLanguageConfig::getBackExitMVRTimeOut() const
+int LcdLanguageConfig::getBackExitMVRTimeOut()
 {
     const QString text = _impl->text(BACK_EXIT_TIME_OUT, "");
     return text.isEmpty() ? 1500 : text.toInt();
 }
 
-int LcdLanguageConfig::getTBarTolerance() const { return _impl->seeded({{T_BAR_TOLERANCE, "100"}}).first().toInt(); }
+int LcdLanguageConfig::getTBarTolerance() { return _impl->seeded({{T_BAR_TOLERANCE, "100"}}).first().toInt(); }
 
-std::pair<int, int> LcdLanguageConfig::getTBarCalibration() const
+std::pair<int, int> LcdLanguageConfig::getTBarCalibration()
 {
     const QStringList ends = _impl->seeded({{T_BAR_CALIBRATION_MIN, "160"}, {T_BAR_CALIBRATION_MAX, "4040"}});
     return {ends[0].toInt(), ends[1].toInt()};
@@ -145,7 +145,7 @@ void LcdLanguageConfig::setTBarCalibration(const std::pair<int, int>& calibratio
     if (_impl->change(use)) linuxSync();
 }
 
-std::vector<std::pair<int, QString>> LcdLanguageConfig::getRTSPSettingPara() const
+std::vector<std::pair<int, QString>> LcdLanguageConfig::getRTSPSettingPara()
 {
     const QStringList texts = _impl->seeded({{RTSP_IP_ADDRESS, DefaultRTSPIPAddress},
                                              {RTSP_MAIN_STREAM, DefaultRTSPMainStream},
@@ -159,7 +159,7 @@ std::vector<std::pair<int, QString>> LcdLanguageConfig::getRTSPSettingPara() con
     return numbered;
 }
 
-bool LcdLanguageConfig::hasFnSettingValue(int index) const
+bool LcdLanguageConfig::hasFnSettingValue(int index)
 {
     return _impl->read(false, [&](const QSettings& setting) { return setting.contains(fnKey(FN_VALUE, index)); });
 }
@@ -174,7 +174,7 @@ void LcdLanguageConfig::setALLFnSettingValue(int value)
 // The custom sort and the clearing of sections write the file at once and leave its way to the storage to the operating
 // system, which is meant.
 
-bool LcdLanguageConfig::hasSourceCustomSort() const
+bool LcdLanguageConfig::hasSourceCustomSort()
 {
     return _impl->read(false,
                        [](const QSettings& setting) { return setting.childGroups().contains(SOURCE_CUSTOM_SORT); });
@@ -189,7 +189,7 @@ void LcdLanguageConfig::setSourceCustomSort(const QString& name, int value)
     });
 }
 
-std::vector<s_SourceCustomSort> LcdLanguageConfig::getSourceCustomSort() const
+std::vector<s_SourceCustomSort> LcdLanguageConfig::getSourceCustomSort()
 {
     return _impl->read(std::vector<s_SourceCustomSort>{}, [](IniFile& setting) {
         std::vector<s_SourceCustomSort> sorts;

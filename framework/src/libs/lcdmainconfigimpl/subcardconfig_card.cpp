@@ -54,10 +54,9 @@ void readCards(const Reader& in, std::vector<s_Subcard>& cards)
 {
     in.each(Walk::Any, "", [&](const Reader& element) {
         // Without its name the card is left out and the load goes on, whereas a name without a language ends it.
-        if (element.has("Name"))
-            element.append(cards, card);
-        else
-            element.note("Name");
+        bool nameless = false;
+        element.scoped(nameless).demand("Name");
+        if (!nameless) element.append(cards, card);
     });
 }
 

@@ -24,7 +24,7 @@ constexpr auto loadInterfaceInTypes = cells(
 void readInterfaces(const Reader& in, s_ConnectorInTypes& type)
 {
     in.each(Walk::Any, "", [&](const Reader& element) {
-        if (element.tag() == QLatin1String("InterfaceType") || element.tag() == QLatin1String("Interface"))
+        if (element.is("InterfaceType") || element.is("Interface"))
             element.append(type.interfaces, loadInterfaceInTypes);
     });
 }

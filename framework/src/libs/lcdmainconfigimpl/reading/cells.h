@@ -28,7 +28,7 @@ template <class Access, class Convert = Plain> struct Attribute {
     requires std::invocable<const Access&, Record&>
     bool operator()(const Reader& in, Record& record) const
     {
-        return in.field(name, readDefault, std::invoke(access, record), convert);
+        return in.field(name, readDefault, std::invoke(access, record), convert, locationOf(record));
     }
 };
 
@@ -75,6 +75,7 @@ template <class... Cells> constexpr auto whole(Cells... parts)
 {
     return [parts...]<class Record>(const Reader& in, Record& record) {
         Record aside{};
+        in.standsFor(aside, record);
         in.read(aside, parts...);
         if (!in.failed()) record = std::move(aside);
     };

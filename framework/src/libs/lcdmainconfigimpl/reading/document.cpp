@@ -6,32 +6,46 @@
 
 namespace LCD::MainConfigImpl::reading {
 
+namespace {
+
+/// Whether a file is read although something is wrong with it, because who listens has put it right in `document`.
+bool isReadAnyway(const QString& path, const Frame& frame, const Report& report, Refusal why, QDomDocument& document,
+                  const ParseFailure& failure = {})
+{
+    return report.listener != nullptr && report.listener->refused(path, frame, why, failure, document);
+}
+
+} // namespace
+
 bool parseFile(const QString& path, const QString& shownPath, const Frame& frame, const Report& report,
                QDomDocument& document)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         report.error = report.say(frame.cannotOpen, shownPath);
-        return false;
+        return isReadAnyway(path, frame, report, Refusal::CannotOpen, document);
     }
     ParseFailure failure;
-    if (parseXml(file, document, failure)) return true;
+    if (parseXml(file, document, failure)) {
+        if (report.listener != nullptr) report.listener->parsed(path, frame, document);
+        return true;
+    }
     report.error =
         report.say("Parse error at line %1, column %2:\n%3").arg(failure.line).arg(failure.column).arg(failure.message);
-    return false;
+    return isReadAnyway(path, frame, report, Refusal::NotWellFormed, document, failure);
 }
 
-bool checkRoot(const QDomDocument& document, const Frame& frame, const Report& report)
+bool checkRoot(QDomDocument& document, const Frame& frame, const Report& report)
 {
-    const QDomElement root = document.documentElement();
-    if (root.tagName() != QLatin1String(frame.rootTag)) {
+    bool unused = false;
+    const Reader root(document.documentElement(), report, unused);
+    if (root.element().tagName() != QLatin1String(frame.rootTag)) {
         report.error = report.say(frame.wrongRoot);
-        return false;
+        if (!isReadAnyway({}, frame, report, Refusal::WrongRoot, document)) return false;
     }
-    const QLatin1String wanted("1.0");
-    if (frame.wrongVersion != nullptr && root.attribute(QStringLiteral("version"), wanted) != wanted) {
+    if (frame.wrongVersion != nullptr && root.text("version", "1.0") != QLatin1String("1.0")) {
         report.error = report.say(frame.wrongVersion);
-        return false;
+        if (!isReadAnyway({}, frame, report, Refusal::WrongVersion, document)) return false;
     }
     return true;
 }
@@ -40,11 +54,11 @@ bool openDocument(const QString& path, const Frame& frame, const Report& report,
 {
     if (frame.emptyPath != nullptr && path.isEmpty()) {
         report.error = report.say(frame.emptyPath, path);
-        return false;
+        return isReadAnyway(path, frame, report, Refusal::CannotOpen, document);
     }
     if (frame.noSuchFile != nullptr && !QFileInfo::exists(path)) {
         report.error = report.say(frame.noSuchFile, path);
-        return false;
+        return isReadAnyway(path, frame, report, Refusal::CannotOpen, document);
     }
     return parseFile(path, path, frame, report, document) && checkRoot(document, frame, report);
 }

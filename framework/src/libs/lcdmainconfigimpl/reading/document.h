@@ -33,7 +33,7 @@ bool parseFile(const QString& path, const QString& shownPath, const Frame& frame
                QDomDocument& document);
 
 /// Checks the root's tag and, where the root has the attribute "version", that it is "1.0".
-bool checkRoot(const QDomDocument& document, const Frame& frame, const Report& report);
+bool checkRoot(QDomDocument& document, const Frame& frame, const Report& report);
 
 /// The whole opening of a file that is read for itself: the path, then parseFile() and checkRoot().
 bool openDocument(const QString& path, const Frame& frame, const Report& report, QDomDocument& document);

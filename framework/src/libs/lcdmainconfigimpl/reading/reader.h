@@ -2,13 +2,13 @@
 // what its absence costs, the record it fills and the cells that fill it. A cell is anything that can be called with a
 // Reader and a record: an attribute with its read default, a list, or a reader function.
 //
-// All look-ups of all readers pass through a few functions of this class, and each of them knows its element: text()
-// and hasAttribute() for attributes, field() for what was no number, find(), has() and each() for children. They are
-// where an observer would listen to what was asked for and what was there.
+// All look-ups of all readers pass through a few functions of this class, each of which knows its element and tells a
+// listener, where there is one, what was asked for and what was there.
 #ifndef LCDMAINCONFIGIMPL_READING_READER_H
 #define LCDMAINCONFIGIMPL_READING_READER_H
 
 #include "convert.h"
+#include "listener.h"
 #include "literal.h"
 
 #include <QDomElement>
@@ -19,25 +19,6 @@
 
 namespace LCD::MainConfigImpl::reading {
 
-/// What the absence of an element costs.
-enum class OnNull {
-    Fail,         ///< The message is set, and the reader ends with false.
-    FailAndLog,   ///< The same, with a log line.
-    Note,         ///< The message is set, and the walk goes on.
-    NoteAndLog,   ///< The same, with a log line.
-    Skip,         ///< Silence; the target keeps its values.
-    ReadDefaults, ///< Silence; a null element is read all the same, so that every read default is stored.
-};
-
-/// How a list is walked, always in document order.
-enum class Walk {
-    Any,         ///< Every child element.
-    First,       ///< The first child element alone, whatever its tag.
-    Named,       ///< Every child element with the tag.
-    FirstNamed,  ///< From the first child element with the tag on, every following element of any tag.
-    Descendants, ///< Every element with the tag below, however deep.
-};
-
 /// tr() of the class in whose name messages are given.
 using Translate = QString (*)(const char* text, const char* disambiguation, int n);
 
@@ -46,9 +27,10 @@ inline constexpr char INVALID_NODE[] = "Invalid [%1] node.";
 
 /// Where the messages of one read go.
 struct Report {
-    QString& error;                         ///< Receives the last message.
-    Translate translate = nullptr;          ///< Null: the texts stand as they are.
-    const char* invalidNode = INVALID_NODE; ///< For the kinds of file that word an absent element in their own way.
+    QString& error;                           ///< Receives the last message.
+    Translate translate = nullptr;            ///< Null: the texts stand as they are.
+    const char* invalidNode = INVALID_NODE;   ///< For the kinds of file that word an absent element in their own way.
+    Listener* listener = Listener::current(); ///< Null in the panel.
 
     /// The text, passed through `translate` where there is one.
     [[nodiscard]] QString say(const char* text) const;
@@ -63,11 +45,12 @@ public:
 
     /// Whether a row has failed; every later row of the scope does nothing.
     [[nodiscard]] bool failed() const { return *_failed; }
-    [[nodiscard]] bool has(Literal tag) const { return !_element.firstChildElement(tag.string()).isNull(); }
-    [[nodiscard]] bool hasAttribute(Literal name) const { return _element.hasAttribute(name.string()); }
+    [[nodiscard]] bool has(Literal tag) const;
+    [[nodiscard]] bool hasAttribute(Literal name) const;
     /// Whether the element holds anything at all, be it only a comment.
-    [[nodiscard]] bool hasContent() const { return _element.hasChildNodes(); }
-    [[nodiscard]] QString tag() const { return _element.tagName(); }
+    [[nodiscard]] bool hasContent() const;
+    /// Whether the element's own tag is this one.
+    [[nodiscard]] bool is(Literal tag) const;
     /// The element itself, for helpers whose signature takes one.
     [[nodiscard]] const QDomElement& element() const { return _element; }
 
@@ -81,16 +64,21 @@ public:
 
     /// The attribute's text, or the read default when it is absent.
     [[nodiscard]] QString text(Literal name, Literal readDefault = "") const;
-    /// Reads one attribute into a field. False when its text was no number of the field's kind.
+    /// Reads one attribute into a field of a record. False when its text was no number of the field's kind.
     template <class Field, class Convert = Plain>
-    bool field(Literal name, Literal readDefault, Field& target, const Convert& convert = {}) const
+    bool field(Literal name, Literal readDefault, Field& target, const Convert& convert, const Location& record) const
     {
-        return convert(text(name, readDefault), target);
+        const bool good = convert(attribute(name, readDefault), target);
+        if (listener() != nullptr) [[unlikely]]
+            tell(name, readDefault, kindOf<Field, Convert>(), good, locationOf(target), record);
+        return good;
     }
 
     /// Applies cells to the element itself.
     template <class Record, class... Cells> void read(Record& record, const Cells&... cells) const
     {
+        if (listener() != nullptr) [[unlikely]]
+            listener()->reading(_element, locationOf(record));
         (readCell(record, cells), ...);
     }
 
@@ -117,6 +105,7 @@ public:
         Record aside{};
         const auto child = find(tag, onNull);
         if (!child) return;
+        child->standsFor(aside, target);
         child->scoped(failed).read(aside, cells...);
         if (!failed) target = std::move(aside);
     }
@@ -128,6 +117,7 @@ public:
     template <class List, class... Cells> void append(List& target, const Cells&... cells) const
     {
         typename List::value_type entry{};
+        standsFor(entry, target);
         read(entry, cells...);
         if (!failed()) target.push_back(std::move(entry));
     }
@@ -151,13 +141,18 @@ public:
     /// Calls `visit(reader)` on each element of the walk until the scope fails. The tag counts for the named walks.
     template <class Visit> void each(Walk walk, Literal tag, const Visit& visit) const
     {
-        for (QDomElement child = first(walk, tag); !failed() && !child.isNull(); child = next(child, walk, tag))
+        for (QDomElement child = first(walk, tag); !failed() && !child.isNull(); child = next(child, walk, tag)) {
+            if (listener() != nullptr) [[unlikely]]
+                listener()->visited(child, walk, tag.string());
             visit(Reader(child, *_report, *_failed));
+        }
     }
 
     /// The first child `tag`, for walks that come back to it. When it is absent the scope fails, and a reader on a null
     /// element is returned, whose rows do nothing.
     [[nodiscard]] Reader required(Literal tag) const;
+    /// Fails the scope when there is no child `tag`; nothing in it is read.
+    void demand(Literal tag) const { (void)find(tag, OnNull::Fail); }
     /// The first child `tag`; nothing when it is absent (unless a null element is to be read) or the scope has failed.
     [[nodiscard]] std::optional<Reader> find(Literal tag, OnNull onNull) const { return find(tag.string(), onNull); }
     [[nodiscard]] std::optional<Reader> find(const QString& tag, OnNull onNull) const;
@@ -165,14 +160,25 @@ public:
     /// The first child of any tag, for files that tell what they hold by it; nothing when there is none.
     [[nodiscard]] std::optional<Reader> firstChild() const;
 
+    /// Tells who listens that what is read into `aside` goes to `place`.
+    template <class Aside, class Place> void standsFor(const Aside& aside, const Place& place) const
+    {
+        if (listener() != nullptr) [[unlikely]]
+            listener()->standsFor(locationOf(aside), locationOf(place));
+    }
+
     /// The same element in a scope of failure of its own.
-    [[nodiscard]] Reader scoped(bool& failed) const { return {_element, *_report, failed}; }
+    [[nodiscard]] Reader scoped(bool& failed) const;
 
 private:
     template <class Record, class Cell> void readCell(Record& record, const Cell& cell) const
     {
         if (!failed()) cell(*this, record);
     }
+    [[nodiscard]] Listener* listener() const { return _report->listener; }
+    [[nodiscard]] QString attribute(Literal name, Literal readDefault) const;
+    void tell(Literal name, Literal readDefault, Kind kind, bool good = true, const Location& field = {},
+              const Location& record = {}) const;
     void leave(const QString& tag, const char* message, bool log) const;
     [[nodiscard]] QDomElement first(Walk walk, Literal tag) const;
     [[nodiscard]] QDomElement next(const QDomElement& child, Walk walk, Literal tag) const;
@@ -188,7 +194,7 @@ template <class Record, class... Cells>
 bool readElement(const QDomElement& element, const Report& report, Record& record, const Cells&... cells)
 {
     bool failed = false;
-    Reader(element, report, failed).read(record, cells...);
+    Reader(element, report, failed).scoped(failed).read(record, cells...);
     return !failed;
 }
 

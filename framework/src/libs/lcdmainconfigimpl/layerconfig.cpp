@@ -1,6 +1,6 @@
-#include "layerconfigmanager.h"
+#include "layerconfig.h"
 
-#include "layerconfigmanager_impl.h"
+#include "layerconfig_impl.h"
 #include "once.h"
 #include "reading/document.h"
 

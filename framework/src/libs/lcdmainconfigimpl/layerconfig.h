@@ -1,6 +1,6 @@
 // The reader of layer files: one layer type each.
-#ifndef LCDMAINCONFIGIMPL_LAYERCONFIGMANAGER_H
-#define LCDMAINCONFIGIMPL_LAYERCONFIGMANAGER_H
+#ifndef LCDMAINCONFIGIMPL_LAYERCONFIG_H
+#define LCDMAINCONFIGIMPL_LAYERCONFIG_H
 
 #include "lcdmainconfig/layer.h"
 

@@ -1,6 +1,6 @@
 // The keying of a layer. Every element of it is required. Most ranges have no step, and only those of the brightness
 // key have a data type; what a row does not name is not read.
-#include "layerconfigmanager_impl.h"
+#include "layerconfig_impl.h"
 
 namespace LCD::MainConfigImpl::layerfile {
 namespace {

@@ -1,6 +1,6 @@
 // What a layer file may say beyond the plain properties and the keying: the fill of the cut part, the shadow, the
 // templates of a device mode, and how many layers may be open. Nothing here refuses the file.
-#include "layerconfigmanager_impl.h"
+#include "layerconfig_impl.h"
 
 #include <QDebug>
 

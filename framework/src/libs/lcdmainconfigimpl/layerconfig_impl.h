@@ -1,6 +1,6 @@
 // The element shapes that stand all over a layer file, and the subtrees that are read in files of their own.
-#ifndef LCDMAINCONFIGIMPL_LAYERCONFIGMANAGER_IMPL_H
-#define LCDMAINCONFIGIMPL_LAYERCONFIGMANAGER_IMPL_H
+#ifndef LCDMAINCONFIGIMPL_LAYERCONFIG_IMPL_H
+#define LCDMAINCONFIGIMPL_LAYERCONFIG_IMPL_H
 
 #include "lcdmainconfig/layer.h"
 #include "reading/cells.h"
