@@ -60,11 +60,19 @@ private:
     QtMessageHandler _before;
 };
 
+std::set<Field> comparedFields()
+{
+    std::set<Field> fields;
+    for (const auto& some : {fieldsOfIdentities(), fieldsOfReferences(), fieldsOfLayouts(), fieldsOfResolutions()})
+        fields.insert(some.begin(), some.end());
+    return fields;
+}
+
 /// The check of one root.
 class RootCheck {
 public:
     RootCheck(QString root, Checked& out, const std::function<void(const QString&)>& progress)
-        : _root(std::move(root)), _out(out), _progress(progress), _collected(fieldsOfReferences())
+        : _root(std::move(root)), _out(out), _progress(progress), _collected(comparedFields())
     {}
 
     void run();
@@ -201,7 +209,10 @@ void RootCheck::run()
     }
     judgeDevices();
     judgeUnread();
+    judgeIdentities(_collected, _out.findings);
     judgeReferences(_collected, _out.findings);
+    judgeLayouts(_collected, _out.findings);
+    judgeResolutions(_collected, _panel.loaded(_root), _out.findings);
 }
 
 } // namespace

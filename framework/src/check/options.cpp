@@ -124,6 +124,7 @@ QString takePath(const QString& path, const QStringList& names, Request& request
     if (!info.exists() && !info.isSymLink()) {
         const QString option = path.contains('/') ? QString() : suggestion(path, names, "--");
         const QStringList beside = info.dir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+        const QString lead = path.left(path.size() - info.fileName().size());
         return path + " is not there" + (option.isEmpty() ? suggestion(info.fileName(), beside, lead) : option);
     }
     if (!info.isDir()) {
@@ -276,6 +277,7 @@ QStringList helpPage(const std::vector<Mode>& modes)
     for (const Mode& mode : modes) {
         QString usage = "lcdcheck";
         if (*mode.option) usage += QStringLiteral(" --") + mode.option;
+        if (mode.letter) usage += QStringLiteral(", -") + mode.letter;
         if (mode.value) usage += QStringLiteral(" ") + mode.value;
         lines.append("  " + lcdcommon::padded(usage + (mode.checks ? " [options] ROOT|FILE..." : ""), 42) + mode.help);
     }

@@ -6,7 +6,6 @@
 #include <QHash>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace lcdcheck {
@@ -127,12 +126,9 @@ void Values::judgeRange(int element)
 /// Whether an element is one allowed value of the element above it: an entry of a list of values.
 bool Values::isEntry(int element) const
 {
-    using namespace LCD::MainConfig;
-    static const std::array entries{fieldOf<EnumValue>(&EnumValue::value),
-                                    fieldOf<ConnectorEnumValue>(&ConnectorEnumValue::value),
-                                    fieldOf<s_EnumStringValue>(&s_EnumStringValue::value)};
+    static const Field named = fieldOf<LCD::MainConfig::s_EnumStringValue>(&LCD::MainConfig::s_EnumStringValue::value);
     const HeardAttribute* const asked = heard(element).attribute("Value");
-    return asked != nullptr && std::find(entries.begin(), entries.end(), asked->field) != entries.end();
+    return asked != nullptr && !heard(element).visits.empty() && (asked->whole || asked->field == named);
 }
 
 void Values::judgeList(int element, const std::vector<int>& children)
