@@ -70,9 +70,9 @@ struct LookUp {
 };
 
 struct Element {
-    QString tag;            ///< Of a list that takes every tag, the likeliest one.
-    bool anyTag = false;    ///< Whether every tag is read as this element.
-    QStringList likelyTags; ///< What it is likely to be called, where it may have any tag.
+    QString tag;                     ///< Of a list that takes every tag, the likeliest one.
+    bool anyTag = false;             ///< Whether every tag is read as this element.
+    QStringList likelyTags;          ///< What it is likely to be called, where it may have any tag.
     const Element* parent = nullptr; ///< Null: the root.
     std::vector<Attribute> attributes;
     std::optional<Attribute> content; ///< The text between its tags, where that is read.

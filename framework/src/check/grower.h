@@ -60,7 +60,7 @@ private:
     QHash<QString, QStringList> _trials;
     QString _trial;
     QHash<QString, bool> _found; ///< Of each tag, whether the last test found it.
-    QDomElement _strayed; ///< A list takes this element for an entry, and it is none.
+    QDomElement _strayed;        ///< A list takes this element for an entry, and it is none.
     Placing _placing;
     int _known = 0;
 };

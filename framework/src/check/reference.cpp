@@ -15,15 +15,24 @@ QString inQuotes(const QString& text) { return '"' + text + '"'; }
 QString kindWords(Kind kind)
 {
     switch (kind) {
-    case Kind::Text: return QStringLiteral("text");
-    case Kind::Int: return QStringLiteral("whole number");
-    case Kind::Signed64: return QStringLiteral("whole number, 64 bits");
-    case Kind::Unsigned64: return QStringLiteral("whole number from 0, 64 bits");
-    case Kind::Unsigned32: return QStringLiteral("whole number from 0 to 65535; of a larger one the low 16 bits are kept");
-    case Kind::Unsigned16: return QStringLiteral("whole number from 0 to 65535");
-    case Kind::Float: return QStringLiteral("number, single precision");
-    case Kind::Double: return QStringLiteral("number");
-    case Kind::Hundredths: return QStringLiteral("number with two decimals");
+    case Kind::Text:
+        return QStringLiteral("text");
+    case Kind::Int:
+        return QStringLiteral("whole number");
+    case Kind::Signed64:
+        return QStringLiteral("whole number, 64 bits");
+    case Kind::Unsigned64:
+        return QStringLiteral("whole number from 0, 64 bits");
+    case Kind::Unsigned32:
+        return QStringLiteral("whole number from 0 to 65535; of a larger one the low 16 bits are kept");
+    case Kind::Unsigned16:
+        return QStringLiteral("whole number from 0 to 65535");
+    case Kind::Float:
+        return QStringLiteral("number, single precision");
+    case Kind::Double:
+        return QStringLiteral("number");
+    case Kind::Hundredths:
+        return QStringLiteral("number with two decimals");
     }
     return {};
 }
@@ -34,11 +43,14 @@ QString countWords(const Visit& visit, const QString& tag)
     case Walk::Any:
         return visit.tag.isEmpty() ? QStringLiteral("list; every child is an entry")
                                    : QStringLiteral("list; a child of another tag is taken for an entry too");
-    case Walk::First: return QStringLiteral("only as the first child");
-    case Walk::Named: return QStringLiteral("list");
+    case Walk::First:
+        return QStringLiteral("only as the first child");
+    case Walk::Named:
+        return QStringLiteral("list");
     case Walk::FirstNamed:
         return QStringLiteral("list; from the first %1 on, every child is taken for an entry").arg(inQuotes(tag));
-    case Walk::Descendants: return QStringLiteral("list, at any depth");
+    case Walk::Descendants:
+        return QStringLiteral("list, at any depth");
     }
     return {};
 }
@@ -55,17 +67,22 @@ QString countOf(const Element& element)
 QString absenceOf(const Element& element)
 {
     if (element.refused) return QStringLiteral("must not be there: its presence counts as a fault");
-    if (element.lookUps.empty()) return element.presenceAsked ? QStringLiteral("it counts whether it is there") : QString();
+    if (element.lookUps.empty())
+        return element.presenceAsked ? QStringLiteral("it counts whether it is there") : QString();
     const Element* const scope = element.lookUps.front().scope;
     switch (*element.cost()) {
     case OnNull::Fail:
     case OnNull::FailAndLog:
-        return scope != nullptr ? QStringLiteral("required: without it the reading of %1 ends").arg(inQuotes(scope->tag))
-                                : QStringLiteral("required: without it the reading of the file ends");
+        return scope != nullptr
+                   ? QStringLiteral("required: without it the reading of %1 ends").arg(inQuotes(scope->tag))
+                   : QStringLiteral("required: without it the reading of the file ends");
     case OnNull::Note:
-    case OnNull::NoteAndLog: return QStringLiteral("should be there: a message is left, and its defaults hold");
-    case OnNull::Skip: return QStringLiteral("optional: its defaults hold");
-    case OnNull::ReadDefaults: return QStringLiteral("optional: it counts as one without attributes");
+    case OnNull::NoteAndLog:
+        return QStringLiteral("should be there: a message is left, and its defaults hold");
+    case OnNull::Skip:
+        return QStringLiteral("optional: its defaults hold");
+    case OnNull::ReadDefaults:
+        return QStringLiteral("optional: it counts as one without attributes");
     }
     return {};
 }
@@ -102,7 +119,8 @@ ReferenceAttribute referenceOf(const Attribute& attribute)
         if (!shown.meanings.contains(info.meaning)) shown.meanings.append(info.meaning);
     }
     if (attribute.condition)
-        shown.condition = QStringLiteral("read only where %1 is %2").arg(attribute.condition->name, attribute.condition->number);
+        shown.condition =
+            QStringLiteral("read only where %1 is %2").arg(attribute.condition->name, attribute.condition->number);
     else if (attribute.presenceAsked)
         shown.condition = QStringLiteral("it also counts whether it is there");
     return shown;

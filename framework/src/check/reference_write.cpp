@@ -68,14 +68,13 @@ QString markdown(const FileKindInfo& kind, const std::vector<ReferenceElement>& 
 
 QString html(const FileKindInfo& kind, const std::vector<ReferenceElement>& elements)
 {
-    QString page =
-        QString("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
-                "<style>body{font:16px/1.5 sans-serif;max-width:70em;margin:2em auto;padding:0 1em}"
-                "h2{font:600 1em monospace;margin-top:2em}table{border-collapse:collapse}"
-                "td,th{border:1px solid #bbb;padding:.2em .6em;text-align:left;vertical-align:top}</style>\n"
-                "</head>\n<body>\n<h1>%1</h1>\n<p>%2. Stands at <code>%3</code>.</p>\n")
-            .arg(QString(kind.title).toHtmlEscaped(), QString(kind.summary).toHtmlEscaped(),
-                 QString(kind.place).toHtmlEscaped());
+    QString page = QString("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
+                           "<style>body{font:16px/1.5 sans-serif;max-width:70em;margin:2em auto;padding:0 1em}"
+                           "h2{font:600 1em monospace;margin-top:2em}table{border-collapse:collapse}"
+                           "td,th{border:1px solid #bbb;padding:.2em .6em;text-align:left;vertical-align:top}</style>\n"
+                           "</head>\n<body>\n<h1>%1</h1>\n<p>%2. Stands at <code>%3</code>.</p>\n")
+                       .arg(QString(kind.title).toHtmlEscaped(), QString(kind.summary).toHtmlEscaped(),
+                            QString(kind.place).toHtmlEscaped());
     for (const ReferenceElement& element : elements) {
         page += QString("<h2 id=\"%1\">%1</h2>\n").arg(element.path.toHtmlEscaped());
         for (const QString& sentence : sentencesOf(element)) page += "<p>" + sentence.toHtmlEscaped() + "</p>\n";
@@ -98,9 +97,12 @@ QString writeReference(const Grammar& grammar, ReferenceFormat format)
     const FileKindInfo& kind = infoOf(grammar.kind());
     const std::vector<ReferenceElement> elements = referenceOf(grammar);
     switch (format) {
-    case ReferenceFormat::Text: return text(kind, elements);
-    case ReferenceFormat::Markdown: return markdown(kind, elements);
-    case ReferenceFormat::Html: return html(kind, elements);
+    case ReferenceFormat::Text:
+        return text(kind, elements);
+    case ReferenceFormat::Markdown:
+        return markdown(kind, elements);
+    case ReferenceFormat::Html:
+        return html(kind, elements);
     }
     return {};
 }

@@ -61,7 +61,8 @@ public:
         _out.writeStartDocument();
         start("schema");
         _out.writeNamespace(XS, "xs");
-        document(QString(infoOf(_grammar.kind()).title) + ": " + infoOf(_grammar.kind()).summary + ". Made by lcdcheck.");
+        document(QString(infoOf(_grammar.kind()).title) + ": " + infoOf(_grammar.kind()).summary +
+                 ". Made by lcdcheck.");
         for (const NumberType& number : NUMBERS) writeNumber(number);
         writeElement(_grammar.root().tag, {&_grammar.root()});
         for (auto global = _globals.cbegin(); global != _globals.cend(); ++global)
@@ -88,10 +89,7 @@ private:
                    return child->isEntry() && child->visits.front().walk == reading::Walk::Descendants;
                });
     }
-    static bool isGlobal(const Element& element)
-    {
-        return element.parent != nullptr && isOpen(*element.parent);
-    }
+    static bool isGlobal(const Element& element) { return element.parent != nullptr && isOpen(*element.parent); }
     void addGlobal(const QString& tag, const Element* element)
     {
         Elements& known = _globals[tag];
@@ -194,7 +192,8 @@ private:
                     writeAttribute(attribute);
                 }
         // It is custom on every root, whether it is looked at or not.
-        if (elements.front()->parent == nullptr && !written.contains("version")) writeAttribute({"version", {}, {}, false});
+        if (elements.front()->parent == nullptr && !written.contains("version"))
+            writeAttribute({"version", {}, {}, false});
         _out.writeEndElement();
     }
 
@@ -209,8 +208,8 @@ private:
                 byTag[child->tag].push_back(&child->body());
             }
         if (order.isEmpty()) return;
-        const bool anyIsOpen = std::any_of(elements.begin(), elements.end(),
-                                           [](const Element* element) { return isOpen(*element); });
+        const bool anyIsOpen =
+            std::any_of(elements.begin(), elements.end(), [](const Element* element) { return isOpen(*element); });
         start(anyIsOpen ? "sequence" : "choice");
         if (anyIsOpen) {
             writeWildcard("lax");
@@ -229,7 +228,8 @@ private:
         _out.writeAttribute("type", attribute.uses.empty() ? "xs:string" : typeOf(attribute.uses.front().kind));
         const ReferenceAttribute shown = referenceOf(attribute);
         QStringList words = shown.meanings;
-        words.append(shown.kind + (shown.readDefault.isEmpty() ? "; empty" : "; " + shown.readDefault) + " when absent");
+        words.append(shown.kind + (shown.readDefault.isEmpty() ? "; empty" : "; " + shown.readDefault) +
+                     " when absent");
         document(words.join(' '));
         _out.writeEndElement();
     }
