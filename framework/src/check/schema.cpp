@@ -197,21 +197,24 @@ private:
         _out.writeEndElement();
     }
 
+    /// Where a tag stands for elements with a list of any tag and for others without, the list is held to the tags that
+    /// are custom: a wildcard would take every misspelling of the others.
     void writeChildren(const Elements& elements)
     {
         QMap<QString, Elements> byTag;
         QStringList order;
-        for (const Element* const element : elements)
-            for (const auto& child : element->children) {
-                if (child->refused) continue;
-                if (!byTag.contains(child->tag)) order.append(child->tag);
-                byTag[child->tag].push_back(&child->body());
-            }
+        bool allAreOpen = true;
+        for (const Element* const element : elements) {
+            allAreOpen = allAreOpen && (isOpen(*element) || element->children.empty());
+            for (const auto& child : element->children)
+                for (const QString& tag : tagsOf(*child)) {
+                    if (!byTag.contains(tag)) order.append(tag);
+                    byTag[tag].push_back(&child->body());
+                }
+        }
         if (order.isEmpty()) return;
-        const bool anyIsOpen =
-            std::any_of(elements.begin(), elements.end(), [](const Element* element) { return isOpen(*element); });
-        start(anyIsOpen ? "sequence" : "choice");
-        if (anyIsOpen) {
+        start(allAreOpen ? "sequence" : "choice");
+        if (allAreOpen) {
             writeWildcard("lax");
         } else {
             _out.writeAttribute("minOccurs", "0");

@@ -50,14 +50,23 @@ private:
         _text += opensComment ? " -->\n" : "\n";
     }
 
+    /// What an attribute says in the file: what an absent one counts as, unless told.
+    [[nodiscard]] QString valueOf(const Element& element, const Attribute& attribute) const
+    {
+        const Use& use = attribute.uses.front();
+        const QString readDefault = use.kind != Kind::Text && use.readDefault.isEmpty() ? "0" : use.readDefault;
+        return _values.value(element.path() + '@' + attribute.name, readDefault);
+    }
+
     [[nodiscard]] QString attributesOf(const Element& element) const
     {
         QString all;
         for (const Attribute& attribute : element.body().attributes) {
             if (attribute.uses.empty()) continue;
-            const Use& use = attribute.uses.front();
-            const QString readDefault = use.kind != Kind::Text && use.readDefault.isEmpty() ? "0" : use.readDefault;
-            const QString value = _values.value(element.path() + '@' + attribute.name, readDefault);
+            QString value = valueOf(element, attribute);
+            // One read default lies outside of the range that those beside it give.
+            const Attribute* const least = attribute.name == "Value" ? element.attribute("Min") : nullptr;
+            if (least != nullptr && value.toInt() < valueOf(element, *least).toInt()) value = valueOf(element, *least);
             all += QString(" %1=\"%2\"").arg(attribute.name, value.toHtmlEscaped());
         }
         return all;
