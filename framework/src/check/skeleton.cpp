@@ -2,6 +2,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
 
 namespace lcdcheck {
 
@@ -28,9 +31,11 @@ private:
         if (element.cost() && *element.cost() < OnNull::Skip) return true;
         if (element.isEntry() && !element.body().children.empty() && element.sameAs == nullptr) return true;
         const QString path = element.path();
-        for (auto value = _values.lowerBound(path); value != _values.cend() && value.key().startsWith(path); ++value)
-            if (value.key()[path.size()] == '/' || value.key()[path.size()] == '@') return true;
-        return false;
+        const auto isThereOrBelow = [&](const QString& key) {
+            return key == path || (key.startsWith(path) && (key[path.size()] == '/' || key[path.size()] == '@'));
+        };
+        const QStringList keys = _values.keys();
+        return std::any_of(keys.begin(), keys.end(), isThereOrBelow);
     }
 
     void writeElement(const Element& element, int depth, bool isInComment)
@@ -40,14 +45,28 @@ private:
         const bool isComment = isInComment || opensComment;
         const QString indent(2 * depth, ' ');
         _text += indent + (opensComment ? "<!-- <" : "<") + element.tag + attributesOf(element);
-        if (element.children.empty()) {
+        const QString content = _values.value(element.path()).toHtmlEscaped();
+        if (!content.isEmpty()) {
+            _text += '>' + content + "</" + element.tag + '>';
+        } else if (element.children.empty()) {
             _text += "/>";
         } else {
             _text += ">\n";
-            for (const auto& child : element.children) writeElement(*child, depth + 1, isComment);
+            for (const Element* const child : inSafeOrder(element)) writeElement(*child, depth + 1, isComment);
             _text += indent + "</" + element.tag + '>';
         }
         _text += opensComment ? " -->\n" : "\n";
+    }
+
+    /// The children, those last whose list takes all that follows them for entries too.
+    static std::vector<const Element*> inSafeOrder(const Element& element)
+    {
+        std::vector<const Element*> order;
+        for (const auto& child : element.children) order.push_back(child.get());
+        std::stable_partition(order.begin(), order.end(), [](const Element* child) {
+            return !child->isEntry() || child->visits.front().walk != reading::Walk::FirstNamed;
+        });
+        return order;
     }
 
     /// What an attribute says in the file: what an absent one counts as, unless told.
@@ -89,23 +108,43 @@ struct SmallFile {
     Values values;
 };
 
-/// One card of model 1 in slot 1, with one connector of type 1.
+/// A value below a path.
+using Below = std::pair<const char*, const char*>;
+
+Values values(const QString& path, std::initializer_list<Below> below)
+{
+    Values all;
+    for (const auto& [place, value] : below) all.insert(path + place, value);
+    return all;
+}
+
+/// One card of model 1 in slot 1, with one connector of type 1 at position 0.
 const std::vector<SmallFile>& smallRoot()
 {
-    static const QString card = "DCS/Subcards/Card";
-    static const QString slot = "DCS/Device/Slots/InputCardSlots/Slot";
-    static const QString connector = "DCS/Connectors/Connector";
     // clang-format off
     static const std::vector<SmallFile> files{
-        {FileKind::Feature,      "devices/device/feature.xml",       {{"DCS/Device@ModuleId", "1"}, {"DCS/Device@Name", "Device"}}},
-        {FileKind::Slot,         "devices/device/slot.xml",          {{slot + "@Index", "1"}, {slot + "/Subcards/Subcard@ModuleId", "1"}}},
-        {FileKind::Card,         "subcards/1.xml",                   {{card + "@ModelId", "1"}, {card + "/Connectors/Connector@Type", "1"}, {card + "/Connectors/Connector@Position", "1"}}},
-        {FileKind::Connector,    "connectors/1.xml",                 {{connector + "@Type", "1"}}},
-        {FileKind::Resolution,   "connectors/resolutionratio.xml",   {}},
-        {FileKind::Menu,         "menu/menuconfig.xml",              {}},
-        {FileKind::FunctionKeys, "fnbutton/fnkeyboardconfig.xml",    {}},
-        {FileKind::KeyCheck,     "keycheck/keyboardchecklist.xml",   {}},
-        {FileKind::LockArea,     "lockarea/lockareaconfig.xml",      {}},
+        {FileKind::Feature, "devices/device/feature.xml", values("DCS/Device", {
+            {"@ModuleId", "1"}, {"@Name", "Device"}, {"@Brand", "Brand"},
+            {"/TypeName/en", "Device"}, {"/TypeName/zh_CN", "Device"}})},
+        {FileKind::Slot, "devices/device/slot.xml", values("DCS/Device/Slots/InputCardSlots", {
+            {"@SilkScreenName", "IN"}, {"@InterfaceType", "1"}, {"/Slot@Index", "1"}, {"/Slot/Subcards/Subcard@ModuleId", "1"}})},
+        {FileKind::Card, "subcards/inputs/1.xml", values("DCS/Subcards/Card", {
+            {"@ModelId", "1"}, {"@CardMode", "1"}, {"/Name/en", "Card"}, {"/Name/zh_CN", "Card"},
+            {"/Connectors/Connector@Type", "1"}, {"/Connectors/Connector@InterfaceType", "1"},
+            {"/Connectors/Connector@Enable", "1"}, {"/Connectors/Connector@Visible", "1"}})},
+        {FileKind::Connector, "connectors/1.xml", values("DCS/Connectors/Connector", {
+            {"@Type", "1"}, {"/Name/en", "Connector"}, {"/Name/zh_CN", "Connector"},
+            {"/ShortName/en", "C"}, {"/ShortName/zh_CN", "C"}, {"/CapacityMode/Interface@Type", "1"}})},
+        {FileKind::Resolution, "connectors/resolutionratio.xml", values("DCS/ResolutionRatios/CapacityMode/ResolutionRatio", {
+            {"@Width", "1920"}, {"@Height", "1080"}})},
+        {FileKind::Menu, "menu/menuconfig.xml", values("LCD/MenuBar/Menu", {
+            {"@Key", "home"}, {"/Menu@Key", "input"}})},
+        {FileKind::FunctionKeys, "fnbutton/fnkeyboardconfig.xml", values("LCD", {
+            {"/MaxCount@count", "1"}, {"/Sequence/Function@name", "None"}})},
+        {FileKind::KeyCheck, "keycheck/keyboardchecklist.xml", values("LCD/LcdKeys/Key", {
+            {"@Value", "257"}, {"@Name", "Key"}})},
+        {FileKind::LockArea, "lockarea/lockareaconfig.xml", values("LCD/LockAreas/LockArea", {
+            {"@Name", "Keys"}, {"@Id", "1"}, {"/Button@LCDKey", "257"}})},
     };
     // clang-format on
     return files;
