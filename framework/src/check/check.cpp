@@ -5,12 +5,14 @@
 #include "drive.h"
 #include "panel.h"
 #include "rules.h"
+#include "rules_settings.h"
 #include "vocabulary.h"
 
 #include "common/access.h"
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -86,6 +88,7 @@ private:
     void heard(HeardFile& file);
     void judgeUnread();
     void judgeDevices();
+    void judgeSettings();
     Finding& add(const char* id, const QString& path, const QString& message);
 
     QString _root;
@@ -161,6 +164,27 @@ void RootCheck::judgeDevices()
         }
 }
 
+void RootCheck::judgeSettings()
+{
+    const Folder& folder = lcdcommon::folderOf(Catalogue::Settings);
+    const QString place = lcdcommon::pathOf(_root, folder);
+    const QString path = place + '/' + folder.file;
+    if (!QFileInfo(place).isDir()) return;
+    if (const QString reason = lcdcommon::whyNoFile(path); !reason.isEmpty()) {
+        add(QFileInfo::exists(path) ? "cannot-read" : "missing-file", path, "cannot be read: " + reason).cost =
+            costOfFile(Catalogue::Settings);
+        return;
+    }
+    ++_out.files;
+    HeardSettings heard;
+    const Silence silence;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return;
+    const IniSource source = IniSource::read(file.readAll());
+    heard.ask(*_panel.loaded(_root).settings, source);
+    heard.judge(path, source, _out.findings);
+}
+
 /// Why nobody reads a file of a catalogue.
 QString whyUnread(const Folder& folder, const QFileInfo& file, const QString& place)
 {
@@ -211,6 +235,7 @@ void RootCheck::run()
         for (const Folder& folder : lcdcommon::folders()) load(folder);
         _hearing.finish();
     }
+    judgeSettings();
     judgeDevices();
     judgeUnread();
     judgeIdentities(_collected, _out.findings);
