@@ -84,10 +84,10 @@ std::optional<Planted> misspeltTag(const Victim& file, int index, Random& random
 {
     const Source::Element& element = file.source.elements()[std::size_t(index)];
     const QString tag = file.source.tag(element);
+    if (tag.size() < 4) return {};
     const QString other = mistyped(random, tag);
     const Element* const parent = element.parent < 0 ? nullptr : file.grammar(element.parent);
-    if (tag.size() < 4 || other == tag || parent == nullptr || parent->takesAnyTag() || parent->namedChild(other))
-        return {};
+    if (other == tag || parent == nullptr || parent->takesAnyTag() || parent->namedChild(other)) return {};
     if (parent->namedChild(tag) == nullptr) return {};
     QString text = file.text;
     if (!element.selfClosed) text.replace(element.endTag.begin + 2, tag.size(), other);
@@ -177,7 +177,7 @@ std::optional<Planted> brokenSyntax(const Victim& file, int index, Random& rando
     switch (pick(random, 4)) {
     case 0: // an end tag that is not that of its start tag
         if (element.selfClosed || element.endTag.isEmpty()) return {};
-        return Planted{file.with(element.endTag, "</Wrong"), {"not-well-formed"}, file.line(element.endTag)};
+        return Planted{file.with(element.endTag, "</Wrong>"), {"not-well-formed"}, file.line(element.endTag)};
     case 1: // a quote too few
         if (attributes.empty()) return {};
         return Planted{file.with({attributes.back().value.end, attributes.back().value.end + 1}, {}),
@@ -185,14 +185,15 @@ std::optional<Planted> brokenSyntax(const Victim& file, int index, Random& rando
                        file.line(attributes.back().name)};
     case 2: // an ampersand by itself
         if (attributes.empty()) return {};
-        return Planted{file.with({attributes[0].value.begin, attributes[0].value.begin}, "A & B"),
+        return Planted{file.with({attributes[0].value.begin, attributes[0].value.begin}, "&"),
                        {"not-well-formed"},
                        file.line(attributes[0].name)};
     default: // an attribute without quotes
         if (attributes.empty()) return {};
-        return Planted{file.with({attributes[0].value.begin - 1, attributes[0].value.end + 1}, "5"),
-                       {"not-well-formed"},
-                       file.line(attributes[0].name)};
+        return Planted{
+            file.with({attributes[0].value.begin - 1, attributes[0].value.end + 1}, file.source.value(attributes[0])),
+            {"not-well-formed"},
+            file.line(attributes[0].name)};
     }
 }
 
