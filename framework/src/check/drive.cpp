@@ -151,12 +151,12 @@ bool read(FileKind kind, const Stage& stage)
 
 } // namespace
 
-bool drive(FileKind kind, Feeder& feeder)
+bool drive(FileKind kind, reading::Listener& listener)
 {
     const Quiet quiet;
     static Stage stage;
     const Hosting hosting(stage.devices, stage.cards);
-    const Listening listening(feeder);
+    const Listening listening(listener);
     return read(kind, stage);
 }
 
