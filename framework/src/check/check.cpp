@@ -2,14 +2,17 @@
 // was heard, file by file and then all files together.
 #include "check.h"
 
+#include "drive.h"
 #include "panel.h"
 #include "rules.h"
+#include "rules_settings.h"
 #include "vocabulary.h"
 
 #include "common/access.h"
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -85,6 +88,7 @@ private:
     void heard(HeardFile& file);
     void judgeUnread();
     void judgeDevices();
+    void judgeSettings();
     Finding& add(const char* id, const QString& path, const QString& message);
 
     QString _root;
@@ -160,6 +164,27 @@ void RootCheck::judgeDevices()
         }
 }
 
+void RootCheck::judgeSettings()
+{
+    const Folder& folder = lcdcommon::folderOf(Catalogue::Settings);
+    const QString place = lcdcommon::pathOf(_root, folder);
+    const QString path = place + '/' + folder.file;
+    if (!QFileInfo(place).isDir()) return;
+    if (const QString reason = lcdcommon::whyNoFile(path); !reason.isEmpty()) {
+        add(QFileInfo::exists(path) ? "cannot-read" : "missing-file", path, "cannot be read: " + reason).cost =
+            costOfFile(Catalogue::Settings);
+        return;
+    }
+    ++_out.files;
+    HeardSettings heard;
+    const Silence silence;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return;
+    const IniSource source = IniSource::read(file.readAll());
+    heard.ask(*_panel.loaded(_root).settings, source);
+    heard.judge(path, source, _out.findings);
+}
+
 /// Why nobody reads a file of a catalogue.
 QString whyUnread(const Folder& folder, const QFileInfo& file, const QString& place)
 {
@@ -210,12 +235,51 @@ void RootCheck::run()
         for (const Folder& folder : lcdcommon::folders()) load(folder);
         _hearing.finish();
     }
+    judgeSettings();
     judgeDevices();
     judgeUnread();
     judgeIdentities(_collected, _out.findings);
     judgeReferences(_collected, _out.findings);
+    judgePositions(_collected, _out.findings);
     judgeLayouts(_collected, _out.findings);
     judgeResolutions(_collected, _panel.loaded(_root), _out.findings);
+}
+
+/// The check of one file for itself, of which other files may hold what it refers to.
+void checkFile(const QString& path, const QString& kindName, GrammarVocabulary& vocabulary, Checked& out)
+{
+    const auto add = [&](const QString& message) {
+        Finding finding;
+        finding.kind = kindOf("cannot-read");
+        finding.file = path;
+        finding.message = message;
+        out.findings.push_back(std::move(finding));
+    };
+    ++out.files;
+    if (const QString reason = lcdcommon::whyNoFile(path); !reason.isEmpty()) return add("cannot be read: " + reason);
+    std::optional<FileKind> kind;
+    if (const FileKindInfo* const told = fileKindNamed(kindName)) kind = told->kind;
+    const std::vector<FileKind> placed = kindsByPlace(path);
+    if (!kind && placed.size() == 1) kind = placed.front();
+    if (!kind) kind = kindByContent(Source::readFile(path).value_or(Source()));
+    if (!kind) return add("neither place, name nor content tell what kind of file it is; --kind does");
+    vocabulary.setKind(path, *kind);
+    Collected collected(comparedFields());
+    Hearing hearing(
+        [&](HeardFile& file) {
+            judgeFrame(file, out.findings);
+            judgeStructure(file, &vocabulary, out.findings);
+            judgeValues(file, out.findings);
+            collected.add(file);
+        },
+        &vocabulary);
+    hearing.setCostOfFile("the file is lost");
+    hearing.readInstead(path);
+    drive(*kind, hearing);
+    hearing.finish();
+    judgeIdentities(collected, out.findings);
+    judgePositions(collected, out.findings);
+    judgeLayouts(collected, out.findings);
 }
 
 } // namespace
@@ -223,8 +287,12 @@ void RootCheck::run()
 Checked check(const Request& request, const std::function<void(const QString& file)>& progress)
 {
     Checked checked;
-    const GrammarVocabulary vocabulary;
+    GrammarVocabulary vocabulary;
     for (const QString& root : request.roots) RootCheck(QDir::cleanPath(root), vocabulary, checked, progress).run();
+    for (const QString& file : request.files) {
+        if (progress) progress(file);
+        checkFile(file, request.kind, vocabulary, checked);
+    }
     checked.line = [last = QString(), source = Source()](const QString& file, int line) mutable {
         if (file != last) {
             source = Source::readFile(file).value_or(Source());

@@ -95,11 +95,10 @@ void Hearing::begin(const QString& path, const reading::Frame& frame)
     _scopes.clear();
     _records.clear();
     _asides.clear();
-    const QString shown = _aliases.value(path, path);
     // Loaders open some files twice, and read some as two kinds.
-    if (_file.path == shown) return;
+    if (_file.path == path) return;
     finish();
-    _file.path = shown;
+    _file.path = path;
     _file.frame = &frame;
     _file.cost = _cost;
     if (auto source = Source::readFile(path)) _file.source = std::move(*source);
@@ -139,6 +138,11 @@ bool Hearing::refused(const QString& path, const reading::Frame& frame, Refusal 
                       const reading::ParseFailure& failure, QDomDocument& document)
 {
     const bool opened = why != Refusal::CannotOpen && why != Refusal::NotWellFormed;
+    if (!opened && !_instead.isEmpty() && path != _instead) {
+        // It comes back here, or to parsed(), with the path of the other file.
+        QString unused;
+        return reading::parseFile(_instead, _instead, frame, reading::Report{unused}, document);
+    }
     if (!opened) begin(path, frame);
     const bool known = std::any_of(_file.refusals.begin(), _file.refusals.end(),
                                    [why](const Refused& refusal) { return refusal.why == why; });

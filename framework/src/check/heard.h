@@ -141,8 +141,8 @@ public:
     void finish();
     /// What the loss of a file costs, from the next file on.
     void setCostOfFile(const QString& cost) { _cost = cost; }
-    /// Has files below one path be known under another, for files that are read through links.
-    void alias(const QString& path, const QString& shownAs) { _aliases.insert(path, shownAs); }
+    /// Has this file be read in the place of the one that the readers open.
+    void readInstead(const QString& path) { _instead = path; }
 
     void parsed(const QString& path, const reading::Frame& frame, QDomDocument& document) override;
     bool refused(const QString& path, const reading::Frame& frame, reading::Refusal why,
@@ -177,7 +177,7 @@ private:
 
     std::function<void(HeardFile&)> _heard;
     const Vocabulary* _vocabulary;
-    QHash<QString, QString> _aliases;
+    QString _instead;
     QString _cost;
     HeardFile _file;
     QDomDocument _putInFrom; ///< Makes the elements that are put in.
