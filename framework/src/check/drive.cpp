@@ -6,6 +6,7 @@
 #include "keycheckconfig.h"
 #include "lockareaconfig.h"
 #include "menuconfig.h"
+#include "quiet.h"
 #include "reading/document.h"
 #include "reading/xmlparse.h"
 #include "subcardconfig.h"
@@ -31,18 +32,6 @@ bool Feeder::refused(const QString& /*path*/, const reading::Frame& /*frame*/, r
 }
 
 namespace {
-
-/// Drops what is logged while it lives.
-class Quiet {
-public:
-    Quiet() : _before(qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {})) {}
-    ~Quiet() { qInstallMessageHandler(_before); }
-    Quiet(const Quiet&) = delete;
-    Quiet& operator=(const Quiet&) = delete;
-
-private:
-    QtMessageHandler _before;
-};
 
 /// Has components find one another while it lives.
 class Hosting final : private kpm::IHostService {

@@ -116,6 +116,9 @@ const std::vector<Mode>& modes()
         {"reference", 0, "[KIND]", "what files may hold", false, runReference, "text markdown html"},
         {"schema", 0, "KIND", "the same as an XSD schema for editors", false, runSchema},
         {"new", 0, "KIND", "a file of that kind to start from", false, runNew, "", "[FOLDER]"},
+        {"at", 0, "PLACE", "what the panel makes of FILE:LINE[:COLUMN]", false, runAt},
+        {"effective", 0, "ROOT", "a configuration as the panel takes it", false, runEffective, "xml json"},
+        {"diff", 0, "OLD", "what differs between two roots by meaning", false, runDiff, "text json", "NEW"},
         {"help", 'h', nullptr, "this page", false, help},
         {"version", 'v', nullptr, "the version", false, version},
     };

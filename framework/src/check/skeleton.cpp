@@ -134,7 +134,9 @@ const std::vector<SmallFile>& smallRoot()
             {"/Connectors/Connector@Enable", "1"}, {"/Connectors/Connector@Visible", "1"}})},
         {FileKind::Connector, "connectors/1.xml", values("DCS/Connectors/Connector", {
             {"@Type", "1"}, {"/Name/en", "Connector"}, {"/Name/zh_CN", "Connector"},
-            {"/ShortName/en", "C"}, {"/ShortName/zh_CN", "C"}, {"/CapacityMode/Interface@Type", "1"}})},
+            {"/ShortName/en", "C"}, {"/ShortName/zh_CN", "C"}, {"/CapacityMode/Interface@Type", "1"},
+            {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Width@Value", "1920"},
+            {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Height@Value", "1080"}})},
         {FileKind::Resolution, "connectors/resolutionratio.xml", values("DCS/ResolutionRatios/CapacityMode/ResolutionRatio", {
             {"@Width", "1920"}, {"@Height", "1080"}})},
         {FileKind::Menu, "menu/menuconfig.xml", values("LCD/MenuBar/Menu", {
