@@ -88,9 +88,11 @@ private:
     void load(const Folder& folder);
     [[nodiscard]] QString shown(const QString& path) const;
     void heard(HeardFile& file);
+    void judge(const HeardFile& file);
     void judgeUnread();
     [[nodiscard]] bool isConsequence(const Folder& folder, const QFileInfo& file);
-    void gatherTypes(const QString& cardFile);
+    void loadUnread(Catalogue catalogue, FileKind kind);
+    [[nodiscard]] bool knowsCards() const;
     void judgeDevices();
     void judgeSettings();
     Finding& add(const char* id, const QString& path, const QString& message);
@@ -117,6 +119,13 @@ Finding& RootCheck::add(const char* id, const QString& path, const QString& mess
     return _out.findings.back();
 }
 
+void RootCheck::judge(const HeardFile& file)
+{
+    judgeFrame(file, _out.findings);
+    judgeStructure(file, &_vocabulary, _out.findings);
+    judgeValues(file, _out.findings);
+}
+
 /// The path as the user named the root: some loaders make theirs absolute.
 QString RootCheck::shown(const QString& path) const
 {
@@ -130,9 +139,7 @@ void RootCheck::heard(HeardFile& file)
     file.path = shown(file.path);
     if (_progress) _progress(file.path);
     ++_out.files;
-    judgeFrame(file, _out.findings);
-    judgeStructure(file, &_vocabulary, _out.findings);
-    judgeValues(file, _out.findings);
+    judge(file);
     _collected.add(file);
     if (file.wasRead || !file.refusals.empty()) _known.insert(file.path);
 }
@@ -156,16 +163,14 @@ void RootCheck::load(const Folder& folder)
 /// A device needs the file that says what it is, and the one that says which cards it takes.
 void RootCheck::judgeDevices()
 {
-    using namespace LCD::MainConfig;
-    const std::pair<Field, const char*> needed[] = {{fieldOf<s_DeviceFeature>(&s_DeviceFeature::moduleId), "feature"},
-                                                    {fieldOf<s_SlotAttr>(&s_SlotAttr::pluginDirection), "slot"}};
     for (const QString& device : lcdcommon::deviceFolders(_root))
-        for (const auto& [field, name] : needed) {
-            const std::vector<Value>& values = _collected.all(field);
-            const bool there = std::any_of(values.begin(), values.end(), [&](const Value& value) {
-                return QFileInfo(_collected.fileOf(value).path).path() == device;
+        for (const FileKind kind : {FileKind::Feature, FileKind::Slot}) {
+            const QStringList files = lcdcommon::filesOf(lcdcommon::folderOf(Catalogue::Devices), device);
+            const bool there = std::any_of(files.begin(), files.end(), [kind](const QString& file) {
+                const std::vector<FileKind> kinds = kindsByPlace(file);
+                return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
             });
-            if (!there) add("missing-file", device, QString("has no %1 file").arg(name));
+            if (!there) add("missing-file", device, QString("has no %1 file").arg(infoOf(kind).name));
         }
 }
 
@@ -213,16 +218,33 @@ QString whyUnread(const Folder& folder, const QFileInfo& file, const QString& pl
     }
 }
 
-/// The connector types that a card has whose file nobody reads.
-void RootCheck::gatherTypes(const QString& cardFile)
+/// Reads what the panel does not, card and connector files that nothing refers to: their mistakes count all the same.
+void RootCheck::loadUnread(Catalogue catalogue, FileKind kind)
 {
+    const Folder& folder = lcdcommon::folderOf(catalogue);
     Collected collected(fieldsOfReferences());
-    Hearing hearing([&](HeardFile& file) { collected.add(file); }, &_vocabulary);
-    hearing.readInstead(cardFile);
-    drive(FileKind::Card, hearing);
-    hearing.finish();
+    for (const QString& path : lcdcommon::filesOf(folder, lcdcommon::pathOf(_root, folder))) {
+        if (_known.contains(path) || !lcdcommon::whyNoFile(path).isEmpty()) continue;
+        Hearing hearing(
+            [&](HeardFile& file) {
+                file.cost = costOfFile(catalogue);
+                judge(file);
+                collected.add(file);
+                if (!knowsCards()) _collected.add(file);
+            },
+            &_vocabulary);
+        hearing.readInstead(path);
+        drive(kind, hearing);
+        hearing.finish();
+    }
     for (const Value& type : collected.all(fieldOf<Lcd::s_SubcardConnector>(&Lcd::s_SubcardConnector::type)))
         _typesOfUnread.insert(type.number());
+}
+
+/// Whether any slot tells which card it takes; where none does, no card is unread for a reason of its own.
+bool RootCheck::knowsCards() const
+{
+    return !_collected.all(fieldOf<Lcd::s_InlineSubcard>(&Lcd::s_InlineSubcard::moduleId)).empty();
 }
 
 /// Whether a file is unread because of a mistake that is told already: a number that leads nowhere and was probably
@@ -232,6 +254,7 @@ bool RootCheck::isConsequence(const Folder& folder, const QFileInfo& file)
     if (folder.catalogue == Catalogue::Connectors && _typesOfUnread.count(file.baseName().toLongLong()) != 0)
         return true;
     const bool card = folder.catalogue == Catalogue::Cards;
+    if (!knowsCards() && (card || folder.catalogue == Catalogue::Connectors)) return true;
     if (!card && folder.catalogue != Catalogue::Connectors) return false;
     const QString id = card ? "missing-card" : "missing-connector-type";
     for (const Finding& finding : _out.findings) {
@@ -252,7 +275,6 @@ void RootCheck::judgeUnread()
         paths.sort();
         for (const QString& path : paths) {
             if (_known.contains(path)) continue;
-            if (folder.catalogue == Catalogue::Cards) gatherTypes(path);
             if (!isConsequence(folder, QFileInfo(path)))
                 add("unread-file", path, "nobody reads this file: " + whyUnread(folder, QFileInfo(path), place));
         }
@@ -271,6 +293,8 @@ void RootCheck::run()
         for (const Folder& folder : lcdcommon::folders()) load(folder);
         _hearing.finish();
     }
+    loadUnread(Catalogue::Cards, FileKind::Card);
+    loadUnread(Catalogue::Connectors, FileKind::Connector);
     judgeSettings();
     judgeDevices();
     judgeIdentities(_collected, _out.findings);

@@ -127,7 +127,8 @@ void Resolutions::judgeOffers(const Loaded& loaded)
         const Value* const mask = on(type, CARD_MASK);
         const Value* const mode = on(type, CARD_MODE);
         if (!type.good || mask == nullptr || mode == nullptr || types.count(type.number()) == 0 || !_certain) continue;
-        if (_collected.above(type, GROUP) != nullptr) continue;
+        // What was not loaded can't be asked.
+        if (_collected.above(type, GROUP) != nullptr || !loaded.connectors->findEDIDInfo(int(type.number()))) continue;
         const auto offered =
             loaded.connectors->findConnectorResolutions(int(mode->number()), int(type.number()), int(mask->number()));
         if (!offered.empty() || !told.insert({type.number(), mask->number(), mode->number()}).second) continue;
