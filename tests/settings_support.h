@@ -48,9 +48,7 @@ public:
             _config->readConfig(folder.path());
     }
     Config& operator*() { return *_config; }
-    const Config& operator*() const { return *_config; }
     Config* operator->() { return &*_config; }
-    const Config* operator->() const { return &*_config; }
     /// The component goes, and writes what it may still have to write.
     void close() { _config.reset(); }
     [[nodiscard]] QString text() const

@@ -24,10 +24,10 @@ struct Entry {
 template <class Config, class Get, class Set = std::nullptr_t>
 Entry entry(const char* key, Get get, const QString& noStore, Set set = nullptr, const QString& unlessAbsent = {})
 {
-    constexpr bool isNumber = std::is_same_v<std::invoke_result_t<Get, const Config&>, int>;
+    constexpr bool isNumber = std::is_same_v<std::invoke_result_t<Get, Config&>, int>;
     const auto check = [=] {
         StandInSync sync;
-        const auto read = [&](const Panel<Config>& panel) { return QVariant(std::invoke(get, *panel)).toString(); };
+        const auto read = [&](auto&& panel) { return QVariant(std::invoke(get, *panel)).toString(); };
         QCOMPARE(read(Panel<Config>()), noStore);
         QCOMPARE(read(Panel<Config>(QString())), unlessAbsent.isEmpty() && isNumber ? "0" : unlessAbsent);
         QCOMPARE(read(Panel<Config>(ini(key, "-42"))), QString("-42"));
@@ -81,8 +81,8 @@ const std::vector<Entry> entries{
     entry<F>("ScaleSettting/SupportScale", &F::getSupportScale, "1"),
     entry<F>("DomesticDevice/DomesticDevice", &F::getDomesticDevice, "1"),
     entry<F>("UsbKeyboard/SupportUsbKeyboard", &F::getSupportUsbKeyboard, "0"),
-    entry<F>("OffColorSetting/OffLightColor", [](const F& c) { return c.getOffLightColorValue().first; }, "7"),
-    entry<F>("OffColorSetting/LightColorBrightness", [](const F& c) { return c.getOffLightColorValue().second; }, "25"),
+    entry<F>("OffColorSetting/OffLightColor", [](F& c) { return c.getOffLightColorValue().first; }, "7"),
+    entry<F>("OffColorSetting/LightColorBrightness", [](F& c) { return c.getOffLightColorValue().second; }, "25"),
     entry<F>("FnSetting/FnValue3", third(&F::getFnSettingValue), "0", third(&F::setFnSettingValue)),
 
     entry<U>("LanguageSetting/LanguageValue", &U::getLanguage, "", &U::setLanguage, ""),
@@ -180,11 +180,11 @@ private Q_SLOTS:
 
     void readsTheArrays()
     {
-        const Factory panel(modes(FACTORY, {{4, 1}, {6, 2}, {4, 3}}) + modes(CURRENT, {{6, 8}, {6, 9}}) +
-                            "[InputListNoSupportConnectorTypeSetting]\n1\\ConnectorType=7\n2\\ConnectorType=x\n"
-                            "3\\ConnectorType=7\n4\\ConnectorType=5\nsize=3\n"
-                            "[SourceTypeUseGeneralNameSetting]\n1\\InterfaceType=1\n1\\ConnectorType=2\n"
-                            "2\\InterfaceType=3\n2\\ConnectorType=4\nsize=2\n");
+        Factory panel(modes(FACTORY, {{4, 1}, {6, 2}, {4, 3}}) + modes(CURRENT, {{6, 8}, {6, 9}}) +
+                      "[InputListNoSupportConnectorTypeSetting]\n1\\ConnectorType=7\n2\\ConnectorType=x\n"
+                      "3\\ConnectorType=7\n4\\ConnectorType=5\nsize=3\n"
+                      "[SourceTypeUseGeneralNameSetting]\n1\\InterfaceType=1\n1\\ConnectorType=2\n"
+                      "2\\InterfaceType=3\n2\\ConnectorType=4\nsize=2\n");
         QCOMPARE(panel->getPgmEditStatusOnWorkMode(4), 1);
         QCOMPARE(panel->getPgmEditStatusOnWorkMode(5), -1);
         QCOMPARE(panel->getPgmEditStatus(), (std::map<int, int>{{4, 1}, {6, 2}}));
@@ -249,7 +249,7 @@ private Q_SLOTS:
         std::vector<std::pair<int, QString>> streams{
             {0, "192.168.0.10"}, {1, stream}, {2, "rtsp://192.168.0.10:8080.rtiuer"}, {3, "hikvision"}, {4, "739164"},
             {5, "9000"},         {6, "admin"}};
-        const User closed;
+        User closed;
         QCOMPARE(closed->getTBarCalibration(), (std::pair{160, 4040}));
         QCOMPARE(closed->getRTSPSettingPara(), streams);
 

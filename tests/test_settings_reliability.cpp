@@ -70,7 +70,7 @@ class TestSettingsReliability : public QObject {
 private Q_SLOTS:
     void losesNoValueAmongThreads()
     {
-        static constexpr std::pair<void (U::*)(int), int (U::*)() const> own[8] = {
+        static constexpr std::pair<void (U::*)(int), int (U::*)()> own[8] = {
             {&U::setReturnToHomeTime, &U::getReturnToHomeTime},
             {&U::setUserModeSettingValue, &U::getUserModeSettingValue},
             {&U::setStartRecordStreamTriggerType, &U::getStartRecordStreamTriggerType},
@@ -149,7 +149,7 @@ private Q_SLOTS:
 
     void survivesKills()
     {
-        const User panel(generation(0));
+        User panel(generation(0));
         const QString lock = panel.file() + ".lock";
         int amidAWrite = 0;
         int last = 0;
@@ -220,7 +220,7 @@ private Q_SLOTS:
 
     void keepsWhatAReadOnlyFolderHolds()
     {
-        const User panel(generation(3));
+        User panel(generation(3));
         QFile folder(panel.folder.path());
         folder.setPermissions(QFile::Permissions(0x5555));
         QProcess process;
