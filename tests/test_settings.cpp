@@ -16,7 +16,6 @@ QString ini(const QString& key, const QString& value)
 
 struct Entry {
     const char* key;
-    bool ofFactory;
     std::function<void()> check;
 };
 
@@ -27,7 +26,7 @@ Entry entry(const char* key, Get get, const QString& noStore, Set set = nullptr,
     constexpr bool isNumber = std::is_same_v<std::invoke_result_t<Get, Config&>, int>;
     const auto check = [=] {
         StandInSync sync;
-        const auto read = [&](auto&& panel) { return QVariant(std::invoke(get, *panel)).toString(); };
+        const auto read = [&](const Panel<Config>& panel) { return QVariant(std::invoke(get, *panel)).toString(); };
         QCOMPARE(read(Panel<Config>()), noStore);
         QCOMPARE(read(Panel<Config>(QString())), unlessAbsent.isEmpty() && isNumber ? "0" : unlessAbsent);
         QCOMPARE(read(Panel<Config>(ini(key, "-42"))), QString("-42"));
@@ -42,7 +41,7 @@ Entry entry(const char* key, Get get, const QString& noStore, Set set = nullptr,
             QCOMPARE(panel.text(), ini(key, "43"));
         }
     };
-    return {key, std::is_same_v<Config, F>, check};
+    return {key, check};
 }
 
 /// A numbered getter or setter at button 3.
@@ -163,7 +162,7 @@ private Q_SLOTS:
     void warnsWithoutAStore()
     {
         StandInSync sync;
-        const LogLines log;
+        for (int calls = 0; calls < 7; ++calls) QTest::ignoreMessage(QtWarningMsg, "_setting is nullptr");
         Factory panel;
         QCOMPARE(panel->getPgmEditStatusOnWorkMode(0), -1);
         QCOMPARE(panel->getCurrentPgmEditStatus(0), -1);
@@ -174,17 +173,16 @@ private Q_SLOTS:
         panel->setCurrentPgmEditDefaultStatus();
         panel->setFnBtnMaxCount(0);
         panel->setALLFnSettingValue(1);
-        QCOMPARE(log.taken().count("_setting is nullptr"), 7);
         QCOMPARE(sync.calls(), 0);
     }
 
     void readsTheArrays()
     {
-        Factory panel(modes(FACTORY, {{4, 1}, {6, 2}, {4, 3}}) + modes(CURRENT, {{6, 8}, {6, 9}}) +
-                      "[InputListNoSupportConnectorTypeSetting]\n1\\ConnectorType=7\n2\\ConnectorType=x\n"
-                      "3\\ConnectorType=7\n4\\ConnectorType=5\nsize=3\n"
-                      "[SourceTypeUseGeneralNameSetting]\n1\\InterfaceType=1\n1\\ConnectorType=2\n"
-                      "2\\InterfaceType=3\n2\\ConnectorType=4\nsize=2\n");
+        const Factory panel(modes(FACTORY, {{4, 1}, {6, 2}, {4, 3}}) + modes(CURRENT, {{6, 8}, {6, 9}}) +
+                            "[InputListNoSupportConnectorTypeSetting]\n1\\ConnectorType=7\n2\\ConnectorType=x\n"
+                            "3\\ConnectorType=7\n4\\ConnectorType=5\nsize=3\n"
+                            "[SourceTypeUseGeneralNameSetting]\n1\\InterfaceType=1\n1\\ConnectorType=2\n"
+                            "2\\InterfaceType=3\n2\\ConnectorType=4\nsize=2\n");
         QCOMPARE(panel->getPgmEditStatusOnWorkMode(4), 1);
         QCOMPARE(panel->getPgmEditStatusOnWorkMode(5), -1);
         QCOMPARE(panel->getPgmEditStatus(), (std::map<int, int>{{4, 1}, {6, 2}}));
@@ -249,7 +247,7 @@ private Q_SLOTS:
         std::vector<std::pair<int, QString>> streams{
             {0, "192.168.0.10"}, {1, stream}, {2, "rtsp://192.168.0.10:8080.rtiuer"}, {3, "hikvision"}, {4, "739164"},
             {5, "9000"},         {6, "admin"}};
-        User closed;
+        const User closed;
         QCOMPARE(closed->getTBarCalibration(), (std::pair{160, 4040}));
         QCOMPARE(closed->getRTSPSettingPara(), streams);
 
@@ -300,22 +298,6 @@ private Q_SLOTS:
         panel->removeGroups({"A", "none", "C"});
         QCOMPARE(panel.text(), ini("AB/x", "3"));
         QCOMPARE(sync.calls(), 0);
-    }
-
-    void loadsTheExample()
-    {
-        Factory panel;
-        QVERIFY(QFile::copy(EXAMPLES_PATH "/halcyon/settings/lcdsetting.ini", panel.file()));
-        QVERIFY(panel->readConfig(panel.folder.path()));
-        QCOMPARE(panel->getCompanyAddressDefault(), QString("16 Harbour Row, Halcyon Bay"));
-        QCOMPARE(panel->getScreenWidth(), 800);
-        QCOMPARE(panel->getFnSettingValue(5), 6);
-        QCOMPARE(panel->getPgmEditStatus(), (std::map<int, int>{{1, 1}, {2, 0}}));
-        QCOMPARE(panel->getInputListNoSupportConnectorType(), (std::vector<int>{7, 8}));
-        QVERIFY(panel->isSourceTypeUseGeneralName(1, 9));
-        // Nothing is left out.
-        QSettings settings(panel.file(), QSettings::IniFormat);
-        for (const Entry& known : entries) QVERIFY2(!known.ofFactory || settings.contains(known.key), known.key);
     }
 };
 

@@ -2,13 +2,17 @@
 // was heard, file by file and then all files together.
 #include "check.h"
 
+#include "drive.h"
 #include "panel.h"
 #include "rules.h"
+#include "rules_settings.h"
+#include "vocabulary.h"
 
 #include "common/access.h"
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -19,6 +23,8 @@ namespace lcdcheck {
 
 using lcdcommon::Catalogue;
 using lcdcommon::Folder;
+
+namespace Lcd = LCD::MainConfig;
 
 namespace {
 
@@ -71,8 +77,9 @@ std::set<Field> comparedFields()
 /// The check of one root.
 class RootCheck {
 public:
-    RootCheck(QString root, Checked& out, const std::function<void(const QString&)>& progress)
-        : _root(std::move(root)), _out(out), _progress(progress), _collected(comparedFields())
+    RootCheck(QString root, const Vocabulary& vocabulary, Checked& out,
+              const std::function<void(const QString&)>& progress)
+        : _root(std::move(root)), _vocabulary(vocabulary), _out(out), _progress(progress), _collected(comparedFields())
     {}
 
     void run();
@@ -82,17 +89,22 @@ private:
     [[nodiscard]] QString shown(const QString& path) const;
     void heard(HeardFile& file);
     void judgeUnread();
+    [[nodiscard]] bool isConsequence(const Folder& folder, const QFileInfo& file);
+    void gatherTypes(const QString& cardFile);
     void judgeDevices();
+    void judgeSettings();
     Finding& add(const char* id, const QString& path, const QString& message);
 
     QString _root;
+    const Vocabulary& _vocabulary;
     Checked& _out;
     const std::function<void(const QString&)>& _progress;
     Collected _collected;
     Panel _panel;
-    Hearing _hearing{[this](HeardFile& file) { heard(file); }};
-    QSet<QString> _known; ///< Files that were read, or about which something was said.
-    int _checkedKeys = 0;
+    Hearing _hearing{[this](HeardFile& file) { heard(file); }, &_vocabulary};
+    QSet<QString> _known;               ///< Files that were read, or about which something was said.
+    std::set<qlonglong> _typesOfUnread; ///< Connector types of the cards that no slot takes.
+    std::set<QString> _explained;       ///< What was missing and is held by a file that nobody reads.
 };
 
 Finding& RootCheck::add(const char* id, const QString& path, const QString& message)
@@ -119,7 +131,7 @@ void RootCheck::heard(HeardFile& file)
     if (_progress) _progress(file.path);
     ++_out.files;
     judgeFrame(file, _out.findings);
-    judgeStructure(file, nullptr, _out.findings);
+    judgeStructure(file, &_vocabulary, _out.findings);
     judgeValues(file, _out.findings);
     _collected.add(file);
     if (file.wasRead || !file.refusals.empty()) _known.insert(file.path);
@@ -157,6 +169,27 @@ void RootCheck::judgeDevices()
         }
 }
 
+void RootCheck::judgeSettings()
+{
+    const Folder& folder = lcdcommon::folderOf(Catalogue::Settings);
+    const QString place = lcdcommon::pathOf(_root, folder);
+    const QString path = place + '/' + folder.file;
+    if (!QFileInfo(place).isDir()) return;
+    if (const QString reason = lcdcommon::whyNoFile(path); !reason.isEmpty()) {
+        add(QFileInfo::exists(path) ? "cannot-read" : "missing-file", path, "cannot be read: " + reason).cost =
+            costOfFile(Catalogue::Settings);
+        return;
+    }
+    ++_out.files;
+    HeardSettings heard;
+    const Silence silence;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return;
+    const IniSource source = IniSource::read(file.readAll());
+    heard.ask(*_panel.loaded(_root).settings, source);
+    heard.judge(path, source, _out.findings);
+}
+
 /// Why nobody reads a file of a catalogue.
 QString whyUnread(const Folder& folder, const QFileInfo& file, const QString& place)
 {
@@ -180,6 +213,34 @@ QString whyUnread(const Folder& folder, const QFileInfo& file, const QString& pl
     }
 }
 
+/// The connector types that a card has whose file nobody reads.
+void RootCheck::gatherTypes(const QString& cardFile)
+{
+    Collected collected(fieldsOfReferences());
+    Hearing hearing([&](HeardFile& file) { collected.add(file); }, &_vocabulary);
+    hearing.readInstead(cardFile);
+    drive(FileKind::Card, hearing);
+    hearing.finish();
+    for (const Value& type : collected.all(fieldOf<Lcd::s_SubcardConnector>(&Lcd::s_SubcardConnector::type)))
+        _typesOfUnread.insert(type.number());
+}
+
+/// Whether a file is unread because of a mistake that is told already: a number that leads nowhere and was probably
+/// meant to lead here, or a card that is unread itself and would have led here.
+bool RootCheck::isConsequence(const Folder& folder, const QFileInfo& file)
+{
+    if (folder.catalogue == Catalogue::Connectors && _typesOfUnread.count(file.baseName().toLongLong()) != 0)
+        return true;
+    const bool card = folder.catalogue == Catalogue::Cards;
+    if (!card && folder.catalogue != Catalogue::Connectors) return false;
+    const QString id = card ? "missing-card" : "missing-connector-type";
+    for (const Finding& finding : _out.findings) {
+        const QString place = QString("%1:%2:%3").arg(finding.file).arg(finding.place.line).arg(finding.place.column);
+        if (finding.kind->id == id && _explained.insert(place).second) return true;
+    }
+    return false;
+}
+
 void RootCheck::judgeUnread()
 {
     for (const Folder& folder : lcdcommon::folders()) {
@@ -189,9 +250,12 @@ void RootCheck::judgeUnread()
         QStringList paths;
         while (entries.hasNext()) paths.append(QDir::cleanPath(entries.next()));
         paths.sort();
-        for (const QString& path : paths)
-            if (!_known.contains(path))
+        for (const QString& path : paths) {
+            if (_known.contains(path)) continue;
+            if (folder.catalogue == Catalogue::Cards) gatherTypes(path);
+            if (!isConsequence(folder, QFileInfo(path)))
                 add("unread-file", path, "nobody reads this file: " + whyUnread(folder, QFileInfo(path), place));
+        }
     }
 }
 
@@ -207,12 +271,51 @@ void RootCheck::run()
         for (const Folder& folder : lcdcommon::folders()) load(folder);
         _hearing.finish();
     }
+    judgeSettings();
     judgeDevices();
-    judgeUnread();
     judgeIdentities(_collected, _out.findings);
     judgeReferences(_collected, _out.findings);
+    judgePositions(_collected, _out.findings);
     judgeLayouts(_collected, _out.findings);
     judgeResolutions(_collected, _panel.loaded(_root), _out.findings);
+    judgeUnread();
+}
+
+/// The check of one file for itself, of which other files may hold what it refers to.
+void checkFile(const QString& path, const QString& kindName, GrammarVocabulary& vocabulary, Checked& out)
+{
+    const auto add = [&](const QString& message) {
+        Finding finding;
+        finding.kind = kindOf("cannot-read");
+        finding.file = path;
+        finding.message = message;
+        out.findings.push_back(std::move(finding));
+    };
+    ++out.files;
+    if (const QString reason = lcdcommon::whyNoFile(path); !reason.isEmpty()) return add("cannot be read: " + reason);
+    std::optional<FileKind> kind;
+    if (const FileKindInfo* const told = fileKindNamed(kindName)) kind = told->kind;
+    const std::vector<FileKind> placed = kindsByPlace(path);
+    if (!kind && placed.size() == 1) kind = placed.front();
+    if (!kind) kind = kindByContent(Source::readFile(path).value_or(Source()));
+    if (!kind) return add("neither place, name nor content tell what kind of file it is; --kind does");
+    vocabulary.setKind(path, *kind);
+    Collected collected(comparedFields());
+    Hearing hearing(
+        [&](HeardFile& file) {
+            judgeFrame(file, out.findings);
+            judgeStructure(file, &vocabulary, out.findings);
+            judgeValues(file, out.findings);
+            collected.add(file);
+        },
+        &vocabulary);
+    hearing.setCostOfFile("the file is lost");
+    hearing.readInstead(path);
+    drive(*kind, hearing);
+    hearing.finish();
+    judgeIdentities(collected, out.findings);
+    judgePositions(collected, out.findings);
+    judgeLayouts(collected, out.findings);
 }
 
 } // namespace
@@ -220,7 +323,12 @@ void RootCheck::run()
 Checked check(const Request& request, const std::function<void(const QString& file)>& progress)
 {
     Checked checked;
-    for (const QString& root : request.roots) RootCheck(QDir::cleanPath(root), checked, progress).run();
+    GrammarVocabulary vocabulary;
+    for (const QString& root : request.roots) RootCheck(QDir::cleanPath(root), vocabulary, checked, progress).run();
+    for (const QString& file : request.files) {
+        if (progress) progress(file);
+        checkFile(file, request.kind, vocabulary, checked);
+    }
     checked.line = [last = QString(), source = Source()](const QString& file, int line) mutable {
         if (file != last) {
             source = Source::readFile(file).value_or(Source());
