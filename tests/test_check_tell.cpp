@@ -240,9 +240,9 @@ void TestCheckTell::expects_data()
     QTest::newRow("no such finding") << xml << "<!-- lcdcheck: expect shadow -->\n<a/>"
                                      << ""
                                      << "unused-expect@1";
-    QTest::newRow("no such command") << xml << "<!-- lcdcheck: ignore -->\n<a/>"
-                                     << ""
-                                     << "unused-expect@1";
+    QTest::newRow("no such command") << xml << "<!-- lcdcheck: ignore shadowed -->\n<a/>"
+                                     << "shadowed@2:1"
+                                     << "shadowed@2 unused-expect@1";
     QTest::newRow("a comment about the checker") << xml << "<!-- see lcdcheck: expect shadowed -->\n<a/>"
                                                  << ""
                                                  << "";

@@ -2,14 +2,17 @@
 // was heard, file by file and then all files together.
 #include "check.h"
 
+#include "drive.h"
 #include "panel.h"
 #include "rules.h"
+#include "rules_settings.h"
 #include "vocabulary.h"
 
 #include "common/access.h"
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -20,6 +23,8 @@ namespace lcdcheck {
 
 using lcdcommon::Catalogue;
 using lcdcommon::Folder;
+
+namespace Lcd = LCD::MainConfig;
 
 namespace {
 
@@ -83,8 +88,13 @@ private:
     void load(const Folder& folder);
     [[nodiscard]] QString shown(const QString& path) const;
     void heard(HeardFile& file);
+    void judge(const HeardFile& file);
     void judgeUnread();
+    [[nodiscard]] bool isConsequence(const Folder& folder, const QFileInfo& file);
+    void loadUnread(Catalogue catalogue, FileKind kind);
+    [[nodiscard]] bool knowsCards() const;
     void judgeDevices();
+    void judgeSettings();
     Finding& add(const char* id, const QString& path, const QString& message);
 
     QString _root;
@@ -94,8 +104,9 @@ private:
     Collected _collected;
     Panel _panel;
     Hearing _hearing{[this](HeardFile& file) { heard(file); }, &_vocabulary};
-    QSet<QString> _known; ///< Files that were read, or about which something was said.
-    int _checkedKeys = 0;
+    QSet<QString> _known;               ///< Files that were read, or about which something was said.
+    std::set<qlonglong> _typesOfUnread; ///< Connector types of the cards that no slot takes.
+    std::set<QString> _explained;       ///< What was missing and is held by a file that nobody reads.
 };
 
 Finding& RootCheck::add(const char* id, const QString& path, const QString& message)
@@ -106,6 +117,13 @@ Finding& RootCheck::add(const char* id, const QString& path, const QString& mess
     finding.message = message;
     _out.findings.push_back(std::move(finding));
     return _out.findings.back();
+}
+
+void RootCheck::judge(const HeardFile& file)
+{
+    judgeFrame(file, _out.findings);
+    judgeStructure(file, &_vocabulary, _out.findings);
+    judgeValues(file, _out.findings);
 }
 
 /// The path as the user named the root: some loaders make theirs absolute.
@@ -121,9 +139,7 @@ void RootCheck::heard(HeardFile& file)
     file.path = shown(file.path);
     if (_progress) _progress(file.path);
     ++_out.files;
-    judgeFrame(file, _out.findings);
-    judgeStructure(file, &_vocabulary, _out.findings);
-    judgeValues(file, _out.findings);
+    judge(file);
     _collected.add(file);
     if (file.wasRead || !file.refusals.empty()) _known.insert(file.path);
 }
@@ -147,17 +163,36 @@ void RootCheck::load(const Folder& folder)
 /// A device needs the file that says what it is, and the one that says which cards it takes.
 void RootCheck::judgeDevices()
 {
-    using namespace LCD::MainConfig;
-    const std::pair<Field, const char*> needed[] = {{fieldOf<s_DeviceFeature>(&s_DeviceFeature::moduleId), "feature"},
-                                                    {fieldOf<s_SlotAttr>(&s_SlotAttr::pluginDirection), "slot"}};
     for (const QString& device : lcdcommon::deviceFolders(_root))
-        for (const auto& [field, name] : needed) {
-            const std::vector<Value>& values = _collected.all(field);
-            const bool there = std::any_of(values.begin(), values.end(), [&](const Value& value) {
-                return QFileInfo(_collected.fileOf(value).path).path() == device;
+        for (const FileKind kind : {FileKind::Feature, FileKind::Slot}) {
+            const QStringList files = lcdcommon::filesOf(lcdcommon::folderOf(Catalogue::Devices), device);
+            const bool there = std::any_of(files.begin(), files.end(), [kind](const QString& file) {
+                const std::vector<FileKind> kinds = kindsByPlace(file);
+                return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
             });
-            if (!there) add("missing-file", device, QString("has no %1 file").arg(name));
+            if (!there) add("missing-file", device, QString("has no %1 file").arg(infoOf(kind).name));
         }
+}
+
+void RootCheck::judgeSettings()
+{
+    const Folder& folder = lcdcommon::folderOf(Catalogue::Settings);
+    const QString place = lcdcommon::pathOf(_root, folder);
+    const QString path = place + '/' + folder.file;
+    if (!QFileInfo(place).isDir()) return;
+    if (const QString reason = lcdcommon::whyNoFile(path); !reason.isEmpty()) {
+        add(QFileInfo::exists(path) ? "cannot-read" : "missing-file", path, "cannot be read: " + reason).cost =
+            costOfFile(Catalogue::Settings);
+        return;
+    }
+    ++_out.files;
+    HeardSettings heard;
+    const Silence silence;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return;
+    const IniSource source = IniSource::read(file.readAll());
+    heard.ask(*_panel.loaded(_root).settings, source);
+    heard.judge(path, source, _out.findings);
 }
 
 /// Why nobody reads a file of a catalogue.
@@ -183,6 +218,52 @@ QString whyUnread(const Folder& folder, const QFileInfo& file, const QString& pl
     }
 }
 
+/// Reads what the panel does not, card and connector files that nothing refers to: their mistakes count all the same.
+void RootCheck::loadUnread(Catalogue catalogue, FileKind kind)
+{
+    const Folder& folder = lcdcommon::folderOf(catalogue);
+    Collected collected(fieldsOfReferences());
+    for (const QString& path : lcdcommon::filesOf(folder, lcdcommon::pathOf(_root, folder))) {
+        if (_known.contains(path) || !lcdcommon::whyNoFile(path).isEmpty()) continue;
+        Hearing hearing(
+            [&](HeardFile& file) {
+                file.cost = costOfFile(catalogue);
+                judge(file);
+                collected.add(file);
+                if (!knowsCards()) _collected.add(file);
+            },
+            &_vocabulary);
+        hearing.readInstead(path);
+        drive(kind, hearing);
+        hearing.finish();
+    }
+    for (const Value& type : collected.all(fieldOf<Lcd::s_SubcardConnector>(&Lcd::s_SubcardConnector::type)))
+        _typesOfUnread.insert(type.number());
+}
+
+/// Whether any slot tells which card it takes; where none does, no card is unread for a reason of its own.
+bool RootCheck::knowsCards() const
+{
+    return !_collected.all(fieldOf<Lcd::s_InlineSubcard>(&Lcd::s_InlineSubcard::moduleId)).empty();
+}
+
+/// Whether a file is unread because of a mistake that is told already: a number that leads nowhere and was probably
+/// meant to lead here, or a card that is unread itself and would have led here.
+bool RootCheck::isConsequence(const Folder& folder, const QFileInfo& file)
+{
+    if (folder.catalogue == Catalogue::Connectors && _typesOfUnread.count(file.baseName().toLongLong()) != 0)
+        return true;
+    const bool card = folder.catalogue == Catalogue::Cards;
+    if (!knowsCards() && (card || folder.catalogue == Catalogue::Connectors)) return true;
+    if (!card && folder.catalogue != Catalogue::Connectors) return false;
+    const QString id = card ? "missing-card" : "missing-connector-type";
+    for (const Finding& finding : _out.findings) {
+        const QString place = QString("%1:%2:%3").arg(finding.file).arg(finding.place.line).arg(finding.place.column);
+        if (finding.kind->id == id && _explained.insert(place).second) return true;
+    }
+    return false;
+}
+
 void RootCheck::judgeUnread()
 {
     for (const Folder& folder : lcdcommon::folders()) {
@@ -192,9 +273,11 @@ void RootCheck::judgeUnread()
         QStringList paths;
         while (entries.hasNext()) paths.append(QDir::cleanPath(entries.next()));
         paths.sort();
-        for (const QString& path : paths)
-            if (!_known.contains(path))
+        for (const QString& path : paths) {
+            if (_known.contains(path)) continue;
+            if (!isConsequence(folder, QFileInfo(path)))
                 add("unread-file", path, "nobody reads this file: " + whyUnread(folder, QFileInfo(path), place));
+        }
     }
 }
 
@@ -210,12 +293,53 @@ void RootCheck::run()
         for (const Folder& folder : lcdcommon::folders()) load(folder);
         _hearing.finish();
     }
+    loadUnread(Catalogue::Cards, FileKind::Card);
+    loadUnread(Catalogue::Connectors, FileKind::Connector);
+    judgeSettings();
     judgeDevices();
-    judgeUnread();
     judgeIdentities(_collected, _out.findings);
     judgeReferences(_collected, _out.findings);
+    judgePositions(_collected, _out.findings);
     judgeLayouts(_collected, _out.findings);
     judgeResolutions(_collected, _panel.loaded(_root), _out.findings);
+    judgeUnread();
+}
+
+/// The check of one file for itself, of which other files may hold what it refers to.
+void checkFile(const QString& path, const QString& kindName, GrammarVocabulary& vocabulary, Checked& out)
+{
+    const auto add = [&](const QString& message) {
+        Finding finding;
+        finding.kind = kindOf("cannot-read");
+        finding.file = path;
+        finding.message = message;
+        out.findings.push_back(std::move(finding));
+    };
+    ++out.files;
+    if (const QString reason = lcdcommon::whyNoFile(path); !reason.isEmpty()) return add("cannot be read: " + reason);
+    std::optional<FileKind> kind;
+    if (const FileKindInfo* const told = fileKindNamed(kindName)) kind = told->kind;
+    const std::vector<FileKind> placed = kindsByPlace(path);
+    if (!kind && placed.size() == 1) kind = placed.front();
+    if (!kind) kind = kindByContent(Source::readFile(path).value_or(Source()));
+    if (!kind) return add("neither place, name nor content tell what kind of file it is; --kind does");
+    vocabulary.setKind(path, *kind);
+    Collected collected(comparedFields());
+    Hearing hearing(
+        [&](HeardFile& file) {
+            judgeFrame(file, out.findings);
+            judgeStructure(file, &vocabulary, out.findings);
+            judgeValues(file, out.findings);
+            collected.add(file);
+        },
+        &vocabulary);
+    hearing.setCostOfFile("the file is lost");
+    hearing.readInstead(path);
+    drive(*kind, hearing);
+    hearing.finish();
+    judgeIdentities(collected, out.findings);
+    judgePositions(collected, out.findings);
+    judgeLayouts(collected, out.findings);
 }
 
 } // namespace
@@ -223,8 +347,12 @@ void RootCheck::run()
 Checked check(const Request& request, const std::function<void(const QString& file)>& progress)
 {
     Checked checked;
-    const GrammarVocabulary vocabulary;
+    GrammarVocabulary vocabulary;
     for (const QString& root : request.roots) RootCheck(QDir::cleanPath(root), vocabulary, checked, progress).run();
+    for (const QString& file : request.files) {
+        if (progress) progress(file);
+        checkFile(file, request.kind, vocabulary, checked);
+    }
     checked.line = [last = QString(), source = Source()](const QString& file, int line) mutable {
         if (file != last) {
             source = Source::readFile(file).value_or(Source());

@@ -6,6 +6,7 @@
 #include "keycheckconfig.h"
 #include "lockareaconfig.h"
 #include "menuconfig.h"
+#include "quiet.h"
 #include "reading/document.h"
 #include "reading/xmlparse.h"
 #include "subcardconfig.h"
@@ -31,18 +32,6 @@ bool Feeder::refused(const QString& /*path*/, const reading::Frame& /*frame*/, r
 }
 
 namespace {
-
-/// Drops what is logged while it lives.
-class Quiet {
-public:
-    Quiet() : _before(qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {})) {}
-    ~Quiet() { qInstallMessageHandler(_before); }
-    Quiet(const Quiet&) = delete;
-    Quiet& operator=(const Quiet&) = delete;
-
-private:
-    QtMessageHandler _before;
-};
 
 /// Has components find one another while it lives.
 class Hosting final : private kpm::IHostService {
@@ -151,12 +140,12 @@ bool read(FileKind kind, const Stage& stage)
 
 } // namespace
 
-bool drive(FileKind kind, Feeder& feeder)
+bool drive(FileKind kind, reading::Listener& listener)
 {
     const Quiet quiet;
     static Stage stage;
     const Hosting hosting(stage.devices, stage.cards);
-    const Listening listening(feeder);
+    const Listening listening(listener);
     return read(kind, stage);
 }
 

@@ -20,9 +20,9 @@ public:
     QDomDocument fed;
 };
 
-/// Reads what the feeder holds; nobody else may listen meanwhile. What the readers log is dropped. False when they make
-/// nothing of it.
-bool drive(FileKind kind, Feeder& feeder);
+/// Has an empty file read, so that the listener is asked what to read in its place: a feeder gives what it holds.
+/// Nobody else may listen meanwhile. What the readers log is dropped. False when they make nothing of it.
+bool drive(FileKind kind, LCD::MainConfigImpl::reading::Listener& listener);
 
 } // namespace lcdcheck
 

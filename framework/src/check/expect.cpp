@@ -12,14 +12,18 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <optional>
 #include <tuple>
 
 namespace lcdcheck {
 namespace {
 
+constexpr char EXPECT[] = "expect";
+
 /// One kind that a comment expects, and the stretch of the file in which it does.
 struct Expectation {
-    QString word; ///< As written.
+    QString word;           ///< As written.
+    bool understood = true; ///< Otherwise the word is a command that there is not.
     const Kind* kind = nullptr;
     Place comment;
     QString element; ///< What the comment stands before; empty when nothing follows it.
@@ -33,25 +37,38 @@ using Expectations = std::vector<Expectation>;
 
 // ---- What comments say ----
 
-/// The ids that a comment expects; what a misspelled command says is taken for an unknown id.
-QStringList expectedWords(const QString& comment)
+/// What a comment asks of the checker.
+struct Wish {
+    QString command;
+    QStringList words; ///< One at least, which may be empty.
+};
+
+std::optional<Wish> wishOf(const QString& comment)
 {
-    static const QRegularExpression form(QStringLiteral(R"(^\s*lcdcheck:\s*(?:expect\b)?([^(]*))"),
-                                         QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression form(QStringLiteral(R"(^\s*lcdcheck:\s*([^\s(]*)([^(]*))"));
+    static const QRegularExpression separator(QStringLiteral("[,\\s]+"));
     const QRegularExpressionMatch match = form.match(comment);
     if (!match.hasMatch()) return {};
-    static const QRegularExpression separator(QStringLiteral("[,\\s]+"));
-    const QStringList words = match.captured(1).split(separator, Qt::SkipEmptyParts);
-    return words.isEmpty() ? QStringList{QString()} : words;
+    const QStringList words = match.captured(2).split(separator, Qt::SkipEmptyParts);
+    return Wish{match.captured(1), words.isEmpty() ? QStringList{QString()} : words};
 }
 
-Expectation expectation(const QString& word, const Place& comment)
+/// What a comment expects, without the stretch in which it does.
+Expectations expectationsOf(const QString& comment, const Place& place)
 {
-    Expectation expected;
-    expected.word = word;
-    expected.kind = kindOf(word);
-    expected.comment = comment;
-    return expected;
+    const std::optional<Wish> wish = wishOf(comment);
+    if (!wish) return {};
+    Expectations all;
+    const bool understood = wish->command == EXPECT;
+    for (const QString& word : understood ? wish->words : QStringList{wish->command}) {
+        Expectation expected;
+        expected.word = word;
+        expected.understood = understood;
+        expected.kind = understood ? kindOf(word) : nullptr;
+        expected.comment = place;
+        all.push_back(expected);
+    }
+    return all;
 }
 
 QString pathOf(const Source& source, int element)
@@ -67,8 +84,8 @@ Expectations expectationsOfXml(const QByteArray& bytes)
     const Source source = Source::read(bytes);
     Expectations all;
     for (const Source::Comment& comment : source.comments())
-        for (const QString& word : expectedWords(source.slice(comment.text).toString())) {
-            Expectation expected = expectation(word, source.place(comment.span));
+        for (Expectation& expected :
+             expectationsOf(source.slice(comment.text).toString(), source.place(comment.span))) {
             if (comment.element >= 0) {
                 const Source::Element& element = source.elements()[std::size_t(comment.element)];
                 const int end = element.endTag.isEmpty() ? element.end : element.endTag.end;
@@ -108,8 +125,8 @@ Expectations expectationsOfIni(const QByteArray& bytes)
         const QString text = lines[i].trimmed();
         if (text.startsWith(';')) {
             const int column = lines[i].indexOf(';') + 1;
-            for (const QString& word : expectedWords(text.mid(1)))
-                all.push_back(expectation(word, stretchOfLine(i + 1, column, text)));
+            const Expectations more = expectationsOf(text.mid(1), stretchOfLine(i + 1, column, text));
+            all.insert(all.end(), more.begin(), more.end());
         } else if (text.startsWith('[')) {
             settle(all, waiting, text.mid(1).chopped(text.endsWith(']') ? 1 : 0), i + 1,
                    stretchOfLine(i + 1, 1, lines[i]));
@@ -154,7 +171,9 @@ Finding unusedFinding(const Expectation& expected, const QString& file)
     finding.place = expected.comment;
     finding.element = expected.element;
     const QString quoted = '"' + expected.word + '"';
-    if (expected.word.isEmpty())
+    if (!expected.understood)
+        finding.message = quoted + QStringLiteral(" is nothing that the checker can be told");
+    else if (expected.word.isEmpty())
         finding.message = QStringLiteral("no finding is named");
     else if (!expected.kind)
         finding.message = quoted + QStringLiteral(" is no finding");
@@ -163,9 +182,9 @@ Finding unusedFinding(const Expectation& expected, const QString& file)
     else
         finding.message = quoted + QStringLiteral(" is expected here, but not found");
     if (!expected.kind) {
-        QStringList ids;
-        for (const Kind& kind : kinds()) ids.append(kind.id);
-        const QString near = lcdcommon::nearest(expected.word, ids);
+        QStringList known;
+        for (const Kind& kind : kinds()) known.append(kind.id);
+        const QString near = expected.understood ? lcdcommon::nearest(expected.word, known) : EXPECT;
         if (!near.isEmpty()) finding.hint = QStringLiteral("did you mean \"%1\"?").arg(near);
     }
     return finding;
@@ -200,7 +219,7 @@ QStringList filesOfRoot(const QString& root)
 
 bool isIni(const QString& file) { return file.endsWith(QLatin1String(".ini"), Qt::CaseInsensitive); }
 
-Expectations expectationsOf(const QString& path)
+Expectations expectationsOfFile(const QString& path)
 {
     // Most files say nothing to the checker, and are spared the reading with places. Encodings of two and four bytes
     // fill up with zeros.
@@ -229,7 +248,7 @@ void applyExpectations(Findings& findings, const Request& request)
     for (const QString& path : request.files) files.try_emplace(QDir::cleanPath(path), File{path, true, {}});
     for (const Finding& finding : findings)
         files.try_emplace(QDir::cleanPath(finding.file), File{finding.file, request.roots.isEmpty(), {}});
-    for (auto& [key, file] : files) file.expectations = expectationsOf(file.path);
+    for (auto& [key, file] : files) file.expectations = expectationsOfFile(file.path);
 
     const auto expected = [&files](const Finding& finding) {
         return isExpected(files.at(QDir::cleanPath(finding.file)).expectations, finding);

@@ -17,7 +17,7 @@ const std::vector<FileKindInfo>& fileKinds()
         {FileKind::Connector,    "connector",    "Connector file",    "connectors/TYPE.xml",              "A connector type: its signal, resolutions and timings", "Connectors"},
         {FileKind::Resolution,   "resolution",   "Resolution file",   "connectors/resolutionratio.xml",   "The standard resolutions of each capacity mode", "ResolutionRatios"},
         {FileKind::Menu,         "menu",         "Menu file",         "menu/menuconfig.xml",              "The tree of the panel's menus"},
-        {FileKind::FunctionKeys, "functionkeys", "Function key file", "fnbutton/fnkeyboardconfig.xml",    "What the function keys do before the user says so"},
+        {FileKind::FunctionKeys, "fnbutton",     "Function key file", "fnbutton/fnkeyboardconfig.xml",    "What the function keys do before the user says so"},
         {FileKind::KeyCheck,     "keycheck",     "Key check file",    "keycheck/keyboard*checklist.xml",  "The keys of the keyboard's self-test"},
         {FileKind::LockArea,     "lockarea",     "Lock area file",    "lockarea/lockareaconfig.xml",      "The areas of keys that are locked together"},
     };

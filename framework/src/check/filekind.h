@@ -25,7 +25,7 @@ enum class FileKind {
 
 struct FileKindInfo {
     FileKind kind;
-    const char* name;    ///< As the command line takes it, for example "functionkeys".
+    const char* name;    ///< As the command line takes it, for example "fnbutton".
     const char* title;   ///< What a person calls such a file, for example "Function keys".
     const char* place;   ///< Where it stands below the root of a configuration.
     const char* summary; ///< One sentence: what it tells.

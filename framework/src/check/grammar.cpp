@@ -49,20 +49,22 @@ std::optional<reading::OnNull> Element::cost() const
 
 bool Element::isRequired() const { return cost() == reading::OnNull::Fail || cost() == reading::OnNull::FailAndLog; }
 
+bool Element::isRead() const
+{
+    const Element& read = body();
+    return !read.attributes.empty() || !read.children.empty() || read.content;
+}
+
 bool Element::takesAnyTag() const
 {
-    const auto isOpen = [](const std::unique_ptr<Element>& entry) {
-        return std::any_of(entry->visits.begin(), entry->visits.end(), [](const Visit& visit) {
-            return visit.walk == reading::Walk::Any || visit.walk == reading::Walk::First;
-        });
-    };
-    return std::any_of(body().children.begin(), body().children.end(), isOpen);
+    return std::any_of(body().children.begin(), body().children.end(),
+                       [](const std::unique_ptr<Element>& entry) { return entry->anyTag; });
 }
 
 const Element* Element::namedChild(const QString& childTag) const
 {
     for (const auto& candidate : body().children)
-        if (candidate->tag == childTag) return candidate.get();
+        if (candidate->tag == childTag || candidate->likelyTags.contains(childTag)) return candidate.get();
     return nullptr;
 }
 
@@ -101,7 +103,7 @@ std::vector<const Element*> Grammar::all() const
 
 std::vector<const Element*> Grammar::placesOfElement(const QString& tag) const
 {
-    return those(all(), [&](const Element& element) { return !element.anyTag && element.tag == tag; });
+    return those(all(), [&](const Element& element) { return element.tag == tag || element.likelyTags.contains(tag); });
 }
 
 std::vector<const Element*> Grammar::placesOfAttribute(const QString& name) const

@@ -70,8 +70,9 @@ struct LookUp {
 };
 
 struct Element {
-    QString tag;                     ///< Of a list that takes every tag, a likely one.
+    QString tag;                     ///< Of a list that takes every tag, the likeliest one.
     bool anyTag = false;             ///< Whether every tag is read as this element.
+    QStringList likelyTags;          ///< What it is likely to be called, where it may have any tag.
     const Element* parent = nullptr; ///< Null: the root.
     std::vector<Attribute> attributes;
     std::optional<Attribute> content; ///< The text between its tags, where that is read.
@@ -88,6 +89,8 @@ struct Element {
     [[nodiscard]] std::optional<reading::OnNull> cost() const;
     [[nodiscard]] bool isRequired() const;
     [[nodiscard]] bool isEntry() const { return !visits.empty(); }
+    /// Whether anything in it is read. What nobody reads may hold anything.
+    [[nodiscard]] bool isRead() const;
     /// Whether every child element, whatever its tag, is an entry of a list below it.
     [[nodiscard]] bool takesAnyTag() const;
     /// What stands in it: itself, or the element that it repeats.

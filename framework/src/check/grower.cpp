@@ -1,5 +1,6 @@
 #include "grower.h"
 
+#include "entrytags.h"
 #include "reading/document.h"
 
 #include <algorithm>
@@ -17,12 +18,6 @@ namespace {
 const QString MARK = QStringLiteral(":");
 /// The tag of an element that stands for those of every tag.
 const QString ANY = QStringLiteral("any");
-
-/// A likely tag for the entries of a list that takes every tag.
-QString likelyTag(const QString& listTag)
-{
-    return listTag.endsWith('s') ? listTag.chopped(1) : QStringLiteral("Entry");
-}
 
 /// As the parser makes elements: some readers ask for the local name.
 QDomElement create(QDomDocument& document, const QString& tag) { return document.createElementNS(QString(), tag); }
@@ -52,7 +47,6 @@ void Grower::prepare(const QString& trial)
     _records.clear();
     _scopes.clear();
     _strayed.clear();
-    for (Element* const element : _elements) element->refused = false;
     setAttributes(fed.documentElement(), trial);
 }
 
@@ -111,8 +105,9 @@ Element& Grower::childOf(Element& parent, const QString& tag)
     for (const auto& child : parent.children)
         if (child->anyTag ? tag.isEmpty() : child->tag == tag) return *child;
     auto child = std::make_unique<Element>();
-    child->tag = tag.isEmpty() ? likelyTag(parent.tag) : tag;
     child->anyTag = tag.isEmpty();
+    if (child->anyTag) child->likelyTags = likelyEntryTags(parent.path());
+    child->tag = child->anyTag ? child->likelyTags.first() : tag;
     child->parent = &parent;
     _elements.push_back(child.get());
     ++_known;
@@ -171,8 +166,7 @@ QDomElement Grower::child(const QDomElement& parent, const QString& tag, OnNull 
     if (grown == nullptr) return found.isNull() ? create(fed, tag) : found;
     Element& child = childOf(*grown, tag);
     _records.erase(&child);
-    const auto lost = _scopes.find(scope);
-    if (addTo(child.lookUps, {cost, lost != _scopes.end() ? lost->second : nullptr})) ++_known;
+    if (addTo(child.lookUps, {cost, lostWith(scope)})) ++_known;
     return put(parent, child);
 }
 
@@ -183,13 +177,15 @@ void Grower::scopeBegins(const bool* scope, const QDomElement& element)
     _scopes[scope] = grown != _root.get() ? grown : nullptr;
 }
 
-void Grower::childTested(const QDomElement& parent, const QString& tag, bool /*found*/)
+bool Grower::childTested(const QDomElement& parent, const QString& tag, bool found)
 {
     Element* const grown = of(parent);
-    if (grown == nullptr) return;
+    if (grown == nullptr) return found;
+    _found[tag] = found;
     Element& child = childOf(*grown, tag);
     child.presenceAsked = true;
     put(parent, child);
+    return found;
 }
 
 bool Grower::contentTested(const QDomElement& /*element*/, bool /*found*/) { return true; }
@@ -228,13 +224,25 @@ void Grower::visited(const QDomElement& element, Walk walk, const QString& tag)
     _records.erase(grown);
 }
 
-bool Grower::failed(const QDomElement& element, const QString& tag, const bool* /*scope*/)
+/// A reader that fails after it has only looked for an element either demands it or can't bear it.
+bool Grower::failed(const QDomElement& element, const QString& tag, const bool* scope)
 {
     Element* const grown = of(element);
     if (grown == nullptr) return true;
-    for (const auto& child : grown->children)
-        if (child->tag == tag && child->presenceAsked) child->refused = true;
+    for (const auto& child : grown->children) {
+        if (child->tag != tag || !child->presenceAsked) continue;
+        if (_found.value(tag))
+            child->refused = true;
+        else
+            addTo(child->lookUps, {OnNull::Fail, lostWith(scope)});
+    }
     return true;
+}
+
+const Element* Grower::lostWith(const bool* scope) const
+{
+    const auto lost = _scopes.find(scope);
+    return lost != _scopes.end() ? lost->second : nullptr;
 }
 
 void Grower::reading(const QDomElement& element, const Location& record)

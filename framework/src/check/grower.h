@@ -32,7 +32,7 @@ public:
     QDomElement child(const QDomElement& parent, const QString& tag, reading::OnNull cost, const bool* scope,
                       const QDomElement& found) override;
     void scopeBegins(const bool* scope, const QDomElement& element) override;
-    void childTested(const QDomElement& parent, const QString& tag, bool found) override;
+    bool childTested(const QDomElement& parent, const QString& tag, bool found) override;
     bool contentTested(const QDomElement& element, bool found) override;
     bool tagTested(const QDomElement& element, const QString& tag, bool is) override;
     void walked(const QDomElement& parent, reading::Walk walk, const QString& tag) override;
@@ -49,6 +49,7 @@ private:
     QDomElement put(const QDomElement& parent, Element& child);
     void setAttributes(QDomElement element, const QString& trial);
     [[nodiscard]] bool fillsRecordAbove(const Element& element, const reading::Location& record) const;
+    [[nodiscard]] const Element* lostWith(const bool* scope) const;
     void recognise(Element& element, const reading::Location& record);
 
     FileKind _kind;
@@ -58,7 +59,8 @@ private:
     std::map<const bool*, const Element*> _scopes;        ///< What is lost with a failure.
     QHash<QString, QStringList> _trials;
     QString _trial;
-    QDomElement _strayed; ///< A list takes this element for an entry, and it is none.
+    QHash<QString, bool> _found; ///< Of each tag, whether the last test found it.
+    QDomElement _strayed;        ///< A list takes this element for an entry, and it is none.
     Placing _placing;
     int _known = 0;
 };

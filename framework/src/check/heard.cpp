@@ -77,6 +77,14 @@ QString HeardFile::pathOf(int element) const
     return tags;
 }
 
+bool HeardFile::isFaulty(const Source::Attribute& attribute) const
+{
+    const auto touches = [&](const Source::Fault& fault) {
+        return fault.span.begin <= attribute.value.end && fault.span.end >= attribute.name.begin;
+    };
+    return std::any_of(source.faults().begin(), source.faults().end(), touches);
+}
+
 // --- Files
 
 void Hearing::finish()
@@ -95,11 +103,10 @@ void Hearing::begin(const QString& path, const reading::Frame& frame)
     _scopes.clear();
     _records.clear();
     _asides.clear();
-    const QString shown = _aliases.value(path, path);
     // Loaders open some files twice, and read some as two kinds.
-    if (_file.path == shown) return;
+    if (_file.path == path) return;
     finish();
-    _file.path = shown;
+    _file.path = path;
     _file.frame = &frame;
     _file.cost = _cost;
     if (auto source = Source::readFile(path)) _file.source = std::move(*source);
@@ -139,6 +146,11 @@ bool Hearing::refused(const QString& path, const reading::Frame& frame, Refusal 
                       const reading::ParseFailure& failure, QDomDocument& document)
 {
     const bool opened = why != Refusal::CannotOpen && why != Refusal::NotWellFormed;
+    if (!opened && !_instead.isEmpty() && path != _instead) {
+        // It comes back here, or to parsed(), with the path of the other file.
+        QString unused;
+        return reading::parseFile(_instead, _instead, frame, reading::Report{unused}, document);
+    }
     if (!opened) begin(path, frame);
     const bool known = std::any_of(_file.refusals.begin(), _file.refusals.end(),
                                    [why](const Refused& refusal) { return refusal.why == why; });
@@ -226,12 +238,13 @@ QDomElement Hearing::child(const QDomElement& parent, const QString& tag, OnNull
 
 void Hearing::scopeBegins(const bool* scope, const QDomElement& element) { _scopes[scope] = indexOf(element); }
 
-void Hearing::childTested(const QDomElement& parent, const QString& tag, bool /*found*/)
+bool Hearing::childTested(const QDomElement& parent, const QString& tag, bool found)
 {
-    const QDomElement element = parent.firstChildElement(tag);
+    const int above = indexOf(parent);
+    const QDomElement element = found ? parent.firstChildElement(tag) : adopt(parent, above, tag);
     if (HeardElement* const heard = heardOf(element)) heard->found = true;
-    const int index = indexOf(element);
-    if (HeardElement* const above = heardOf(parent)) above->children.push_back({tag, index, true});
+    if (above >= 0) _file.elements[std::size_t(above)].children.push_back({tag, indexOf(element), true});
+    return !element.isNull();
 }
 
 bool Hearing::failed(const QDomElement& element, const QString& tag, const bool* scope)

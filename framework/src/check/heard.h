@@ -112,6 +112,8 @@ struct HeardFile {
     /// The tags from the root to an element, under which it was read, as "DCS/Device/Slots".
     [[nodiscard]] QString pathOf(int element) const;
     [[nodiscard]] QString tagOf(int element) const;
+    /// Whether the syntax is at fault in an attribute, so that its value tells nothing.
+    [[nodiscard]] bool isFaulty(const Source::Attribute& attribute) const;
 };
 
 /// The names that a place of a file may hold. It is asked only where something is missing.
@@ -141,8 +143,8 @@ public:
     void finish();
     /// What the loss of a file costs, from the next file on.
     void setCostOfFile(const QString& cost) { _cost = cost; }
-    /// Has files below one path be known under another, for files that are read through links.
-    void alias(const QString& path, const QString& shownAs) { _aliases.insert(path, shownAs); }
+    /// Has this file be read in the place of the one that the readers open.
+    void readInstead(const QString& path) { _instead = path; }
 
     void parsed(const QString& path, const reading::Frame& frame, QDomDocument& document) override;
     bool refused(const QString& path, const reading::Frame& frame, reading::Refusal why,
@@ -152,7 +154,7 @@ public:
     QDomElement child(const QDomElement& parent, const QString& tag, reading::OnNull cost, const bool* scope,
                       const QDomElement& found) override;
     void scopeBegins(const bool* scope, const QDomElement& element) override;
-    void childTested(const QDomElement& parent, const QString& tag, bool found) override;
+    bool childTested(const QDomElement& parent, const QString& tag, bool found) override;
     bool contentTested(const QDomElement& element, bool found) override;
     bool tagTested(const QDomElement& element, const QString& tag, bool is) override;
     void walked(const QDomElement& parent, reading::Walk walk, const QString& tag) override;
@@ -177,7 +179,7 @@ private:
 
     std::function<void(HeardFile&)> _heard;
     const Vocabulary* _vocabulary;
-    QHash<QString, QString> _aliases;
+    QString _instead;
     QString _cost;
     HeardFile _file;
     QDomDocument _putInFrom; ///< Makes the elements that are put in.

@@ -1,4 +1,5 @@
 // The program by which those who write a configuration learn what the panel will make of it.
+#include "describe.h"
 #include "expect.h"
 #include "options.h"
 #include "progress.h"
@@ -112,6 +113,12 @@ const std::vector<Mode>& modes()
         {"watch", 0, nullptr, "the same, and again as files change", true, watchAndCheck},
         {"explain", 0, "ID", "what a finding means and how it is mended", false, explain},
         {"list", 0, nullptr, "every finding: id, severity, one line", false, list},
+        {"reference", 0, "[KIND]", "what files may hold", false, runReference, "text markdown html"},
+        {"schema", 0, "KIND", "the same as an XSD schema for editors", false, runSchema},
+        {"new", 0, "KIND", "a file of that kind to start from", false, runNew, "", "[FOLDER]"},
+        {"at", 0, "PLACE", "what the panel makes of FILE:LINE[:COLUMN]", false, runAt},
+        {"effective", 0, "ROOT", "a configuration as the panel takes it", false, runEffective, "xml json"},
+        {"diff", 0, "OLD", "what differs between two roots by meaning", false, runDiff, "text json", "NEW"},
         {"help", 'h', nullptr, "this page", false, help},
         {"version", 'v', nullptr, "the version", false, version},
     };

@@ -1,5 +1,7 @@
 #include "options.h"
 
+#include "filekind.h"
+
 #include "common/access.h"
 #include "common/layout.h"
 #include "common/nearest.h"
@@ -21,11 +23,14 @@ struct Option {
     QString (*take)(const QString& value, Options& options);
 };
 
-// What a file holds, by the names that --kind knows.
-const QStringList& fileKinds()
+/// What a file holds, by the names that --kind knows.
+const QStringList& kindNames()
 {
-    static const QStringList all{"feature",    "slot", "silk",     "screen",   "layer",    "card",    "connector",
-                                 "resolution", "menu", "fnbutton", "keycheck", "lockarea", "settings"};
+    static const QStringList all = [] {
+        QStringList names;
+        for (const FileKindInfo& kind : fileKinds()) names.append(kind.name);
+        return names << "settings";
+    }();
     return all;
 }
 
@@ -76,7 +81,7 @@ QString takeFailOn(const QString& value, Options& options)
 QString takeKind(const QString& value, Options& options)
 {
     QString wrong;
-    if (indexOf(value, fileKinds(), "kind", wrong) >= 0) options.request.kind = value;
+    if (indexOf(value, kindNames(), "kind", wrong) >= 0) options.request.kind = value;
     return wrong;
 }
 
@@ -183,6 +188,10 @@ private:
     {
         for (const Mode& mode : _modes)
             if (*mode.option && name == mode.option) return readMode(mode, value);
+        if (name == "format") {
+            _line.options.formatName = valueOf(name, value);
+            return;
+        }
         for (const Option& option : checkOptions()) {
             if (name != option.name) continue;
             _stray = _stray.isEmpty() ? name : _stray;
@@ -200,10 +209,15 @@ private:
         if (!_settled && _line.mode && _line.mode != &mode)
             return wrong(QStringLiteral("--%1 and --%2 do not go together").arg(_line.mode->option, mode.option));
         _line.mode = &mode;
-        if (mode.value)
+        if (mode.value && (*mode.value != '[' || !value.isNull() || isWordNext()))
             _line.options.subject = valueOf(mode.option, value);
         else if (!value.isNull())
             wrong(QStringLiteral("--%1 takes no value").arg(mode.option));
+    }
+
+    [[nodiscard]] bool isWordNext() const
+    {
+        return _at + 1 < _arguments.size() && !_arguments[_at + 1].startsWith('-');
     }
 
     /// The value behind "=", or the next word; null when there is none.
@@ -220,15 +234,27 @@ private:
         for (const Mode& mode : _modes)
             if (!_line.mode && !*mode.option) _line.mode = &mode;
         if (!_line.wrong.isEmpty()) return;
-        if (!_line.mode->checks) {
-            if (!_stray.isEmpty()) wrong(QStringLiteral("--%1 takes no --").arg(_line.mode->option) + _stray);
-            if (!_paths.isEmpty()) wrong(QStringLiteral("--%1 takes no ").arg(_line.mode->option) + _paths.first());
-            return;
-        }
+        if (!_line.mode->checks) return finishOther(*_line.mode);
+        if (!_line.options.formatName.isNull()) wrong(takeFormat(_line.options.formatName, _line.options));
         if (_paths.isEmpty()) wrong("nothing to check");
         for (const QString& path : _paths) wrong(takePath(path, optionNames(_modes), _line.options.request));
         if (!_line.options.request.kind.isEmpty() && _line.options.request.files.isEmpty())
             wrong("--kind is for single files");
+    }
+
+    /// Of a mode that does not check.
+    void finishOther(const Mode& mode)
+    {
+        const QStringList known = QString(mode.formats).split(' ', Qt::SkipEmptyParts);
+        const QString& format = _line.options.formatName;
+        if (known.isEmpty() && !format.isNull()) _stray = "format";
+        if (!_stray.isEmpty()) wrong(QStringLiteral("--%1 takes no --").arg(mode.option) + _stray);
+        if (!*mode.paths && !_paths.isEmpty())
+            wrong(QStringLiteral("--%1 takes no ").arg(mode.option) + _paths.first());
+        QString why;
+        if (!format.isNull()) indexOf(format, known, "format", why);
+        wrong(why);
+        _line.options.paths = _paths;
     }
 
     const QStringList& _arguments;
@@ -279,6 +305,7 @@ QStringList helpPage(const std::vector<Mode>& modes)
         if (*mode.option) usage += QStringLiteral(" --") + mode.option;
         if (mode.letter) usage += QStringLiteral(", -") + mode.letter;
         if (mode.value) usage += QStringLiteral(" ") + mode.value;
+        if (*mode.paths) usage += QStringLiteral(" ") + mode.paths;
         lines.append("  " + lcdcommon::padded(usage + (mode.checks ? " [options] ROOT|FILE..." : ""), 42) + mode.help);
     }
     lines
@@ -293,7 +320,7 @@ QStringList helpPage(const std::vector<Mode>& modes)
     for (const Format& format : formats()) lines.append(helpRow(format.name, format.summary));
     lines
         << ""
-        << "Kinds of files: " + fileKinds().join(", ") + "."
+        << "Kinds of files: " + kindNames().join(", ") + "."
         << ""
         << "A finding is silenced by a comment before its element, or in an ini file before its entry:"
         << "  <!-- lcdcheck: expect ID (reason) -->"

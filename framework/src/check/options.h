@@ -22,7 +22,9 @@ struct Console {
 struct Options {
     QString subject; ///< What stands behind the option of the mode, as the id of `--explain`.
     Request request;
+    QStringList paths; ///< The files and folders of a mode that does not check.
     const Format* format = &formats().front();
+    QString formatName; ///< The same of a mode that does not check; empty where none is named.
     Selection selection;
     std::optional<Severity> failOn = Severity::Warning; ///< Nothing: never.
 };
@@ -31,10 +33,13 @@ struct Options {
 struct Mode {
     const char* option; ///< The option that asks for it, without "--"; empty: what is done without one.
     char letter;        ///< Its short form; 0 without one.
-    const char* value;  ///< What stands behind the option; null where nothing does.
-    const char* help;   ///< One line, without a full stop.
-    bool checks;        ///< Takes roots and files, and the options of checking.
+    const char*
+        value;        ///< What stands behind the option, in brackets where it may be left out; null where nothing does.
+    const char* help; ///< One line, without a full stop.
+    bool checks;      ///< Takes roots and files, and the options of checking.
     int (*run)(const Options& options, Console& console);
+    const char* formats = ""; ///< What --format may name in a mode that does not check, the first without it.
+    const char* paths = "";   ///< What else such a mode takes, as the help page shows it.
 };
 
 /// What a command line asks for; `wrong` tells why it can't be done.

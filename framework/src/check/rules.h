@@ -64,7 +64,9 @@ std::set<Field> fieldsOfResolutions();
 
 /// duplicate-identifier, shadowed.
 void judgeIdentities(const Collected& collected, Findings& findings);
-/// missing-card, missing-connector-type, missing-layer-type, missing-slot, missing-connector, missing-position.
+/// missing-position: what a card says of itself.
+void judgePositions(const Collected& collected, Findings& findings);
+/// missing-card, missing-connector-type, missing-layer-type, missing-slot, missing-connector.
 void judgeReferences(const Collected& collected, Findings& findings);
 /// overlapping-cells, cell-outside.
 void judgeLayouts(const Collected& collected, Findings& findings);

@@ -4,6 +4,8 @@
 #include "common/access.h"
 #include "common/nearest.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace lcdcheck {
@@ -68,8 +70,8 @@ void judgeRefusal(const HeardFile& file, const Refused& refused, FileJudge& judg
     switch (refused.why) {
     case Refusal::CannotOpen: {
         const QString reason = lcdcommon::whyNoFile(file.path);
-        judge.at("cannot-read", {}, "cannot be read: " + (reason.isEmpty() ? "it can't be opened" : reason)).cost =
-            file.cost;
+        const char* const id = QFileInfo::exists(file.path) ? "cannot-read" : "missing-file";
+        judge.at(id, {}, "cannot be read: " + (reason.isEmpty() ? "it can't be opened" : reason)).cost = file.cost;
         break;
     }
     case Refusal::NotWellFormed:

@@ -218,6 +218,12 @@ void judgeReferences(const Collected& collected, Findings& findings)
     references.judgeConnectorTypes();
     references.judgeLayers();
     for (const auto& [slot, connector] : SPOTS) references.judgeSpots(slot, connector);
+}
+
+void judgePositions(const Collected& collected, Findings& findings)
+{
+    References references(collected, findings);
+    references.gather();
     for (const Field& field : POSITIONS) references.judgePositions(field);
 }
 

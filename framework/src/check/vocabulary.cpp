@@ -66,6 +66,32 @@ std::vector<FileKind> kindsByPlace(const QString& path)
     return kindsOfDeviceFile(info.fileName());
 }
 
+std::optional<FileKind> kindByContent(const Source& source)
+{
+    std::optional<FileKind> best;
+    int most = 0;
+    for (const FileKindInfo& info : fileKinds()) {
+        // The place of each element in the grammar; null where it has none, and for all below.
+        std::vector<const Element*> places;
+        int known = 0;
+        for (const Source::Element& element : source.elements()) {
+            const QString tag = localName(source.slice(element.name)).toString();
+            const Element* place = nullptr;
+            if (element.parent >= 0 && places[std::size_t(element.parent)] != nullptr)
+                place = places[std::size_t(element.parent)]->body().namedChild(tag);
+            else if (element.parent < 0 && tag == grammarOf(info.kind).root().tag)
+                place = &grammarOf(info.kind).root();
+            places.push_back(place);
+            if (element.parent >= 0 && place != nullptr) ++known;
+        }
+        if (known > most) {
+            most = known;
+            best = info.kind;
+        }
+    }
+    return best;
+}
+
 GrammarVocabulary::GrammarVocabulary()
 {
     for (const FileKindInfo& info : fileKinds()) grammarOf(info.kind);

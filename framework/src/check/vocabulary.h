@@ -5,6 +5,7 @@
 #include "filekind.h"
 #include "heard.h"
 
+#include <optional>
 #include <vector>
 
 namespace lcdcheck {
@@ -12,6 +13,9 @@ namespace lcdcheck {
 /// The kinds as which a file is read, by its place below a root and its name; empty when these tell none. A connector
 /// file may also be the resolution file: its content decides.
 std::vector<FileKind> kindsByPlace(const QString& path);
+
+/// The kind whose grammar knows most of a file's elements; nothing when none knows any but the root.
+std::optional<FileKind> kindByContent(const Source& source);
 
 class GrammarVocabulary final : public Vocabulary {
 public:

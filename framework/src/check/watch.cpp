@@ -42,7 +42,8 @@ Snapshot take(const QStringList& paths)
         const QFileInfo info(path);
         if (info.exists()) add(info);
         if (!info.isDir()) continue;
-        QDirIterator below(path, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+        QDirIterator below(path, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                           QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
         while (below.hasNext()) {
             below.next();
             add(below.fileInfo());

@@ -46,8 +46,7 @@ void Reader::note(Literal tag, const char* message) const
 bool Reader::has(Literal tag) const
 {
     const bool found = !_element.firstChildElement(tag.string()).isNull();
-    if (listener() != nullptr) listener()->childTested(_element, tag.string(), found);
-    return found;
+    return listener() != nullptr ? listener()->childTested(_element, tag.string(), found) : found;
 }
 
 bool Reader::hasAttribute(Literal name) const

@@ -3,6 +3,7 @@
 #ifndef LCDMAINCONFIGIMPL_SETTINGS_SETTINGSARRAY_H
 #define LCDMAINCONFIGIMPL_SETTINGS_SETTINGSARRAY_H
 
+#include "heardsetting.h"
 #include "inifile.h"
 
 #include <QString>
@@ -15,13 +16,13 @@ public:
 
     /// As the file tells it, but no more than a file can sensibly hold: a mistyped number must not keep the panel
     /// waiting.
-    [[nodiscard]] int size() const { return qBound(0, _setting.value(_prefix + "size").toInt(), MOST_ROWS); }
+    [[nodiscard]] int size() const { return qBound(0, numberOf(_prefix + "size"), MOST_ROWS); }
     /// Makes room for rows up to `size`; never shrinks.
     void growTo(int size)
     {
         if (size > this->size()) _setting.setValue(_prefix + "size", size);
     }
-    [[nodiscard]] int number(int row, const char* entry) const { return _setting.value(key(row, entry)).toInt(); }
+    [[nodiscard]] int number(int row, const char* entry) const { return numberOf(key(row, entry)); }
     void set(int row, const char* entry, int value) { _setting.setValue(key(row, entry), value); }
 
     /// The first row that `matches` accepts; -1 when there is none.
@@ -40,6 +41,8 @@ private:
     {
         return _prefix + QString::number(row + 1) + '/' + entry;
     }
+
+    [[nodiscard]] int numberOf(const QString& key) const { return settingNumber(key, _setting.value(key)); }
 
     IniFile& _setting;
     QString _prefix;

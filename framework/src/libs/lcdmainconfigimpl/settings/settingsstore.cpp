@@ -1,5 +1,7 @@
 #include "settingsstore.h"
 
+#include "heardsetting.h"
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -19,6 +21,7 @@ int boundedFnButtons(int count)
 void SettingsStore::open(const QString& path)
 {
     IniFile::Pointer file = IniFile::open(path);
+    if (reading::Listener::current() != nullptr) reading::Listener::current()->settingsOpened(path);
     const std::lock_guard lock(_mutex);
     _setting = file.get();
     const auto isOpen = [&](const IniFile::Pointer& opened) { return opened == file; };
@@ -47,7 +50,7 @@ std::vector<int> SettingsStore::numbers(std::initializer_list<Number> entries) c
     const IniFile* const opened = setting();
     std::vector<int> numbers;
     for (const Number& entry : entries)
-        numbers.push_back(opened ? opened->value(entry.key, entry.noStore).toInt() : entry.noStore);
+        numbers.push_back(opened ? settingNumber(entry.key, opened->value(entry.key, entry.noStore)) : entry.noStore);
     return numbers;
 }
 
@@ -60,7 +63,7 @@ QString SettingsStore::text(const QString& key, const char* noStore) const
 QString SettingsStore::textUnlocked(const QString& key, const char* noStore) const
 {
     const IniFile* const opened = setting();
-    return opened ? opened->value(key, noStore).toString() : QString(noStore);
+    return opened ? settingText(key, opened->value(key, noStore)) : QString(noStore);
 }
 
 QStringList SettingsStore::seeded(std::initializer_list<Seed> entries) const
@@ -72,7 +75,7 @@ QStringList SettingsStore::seeded(std::initializer_list<Seed> entries) const
         const std::lock_guard lock(_mutex);
         opened = setting();
         for (const Seed& entry : entries) {
-            const QString text = opened ? opened->value(entry.key).toString() : QString();
+            const QString text = opened ? settingText(entry.key, opened->value(entry.key)) : QString();
             texts.append(text.isEmpty() ? entry.text : text);
             // Who does not know the file can't know that the entry is empty.
             if (!opened || !opened->isKnown() || !text.isEmpty()) continue;
