@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstring>
 
 namespace LCD::MainConfigImpl::reading {
 namespace {
@@ -24,8 +26,11 @@ QString referenceAt(const QChar* at, const QChar* end)
 XmlSource::XmlSource(QIODevice& device)
 {
     decode(device);
-    // The parser knows both of these for ends, and QXmlInputSource gives it the second for either.
-    _text.replace(QChar(EndOfData), QChar(EndOfDocument));
+    // The parser knows both of these for ends, and QXmlInputSource gives it the second for either. Hardly a text has
+    // even one byte of the first, and bytes are looked through far faster.
+    const auto bytes = static_cast<std::size_t>(_text.size()) * sizeof(QChar);
+    if (std::memchr(_text.constData(), EndOfData & 0xFF, bytes) != nullptr)
+        _text.replace(QChar(EndOfData), QChar(EndOfDocument));
     _at = _text.constData();
     _end = _at + _text.size();
     _pause = _end;
@@ -37,6 +42,7 @@ void XmlSource::decode(QIODevice& device)
     // QXmlInputSource decodes by pieces of this size. Bytes that are no text come out alike only with the same.
     constexpr int piece = 1024;
     std::array<char, 16 * piece> block; // NOLINT(cppcoreguidelines-pro-type-member-init): read() fills it
+    _text.reserve(static_cast<int>(std::min<qint64>(device.size(), LARGEST_FILE)));
     qint64 size = 0;
     for (qint64 got = 0; (got = device.read(block.data(), block.size())) > 0;) {
         size += got;
