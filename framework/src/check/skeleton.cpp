@@ -136,7 +136,9 @@ const std::vector<SmallFile>& smallRoot()
             {"@Type", "1"}, {"/Name/en", "Connector"}, {"/Name/zh_CN", "Connector"},
             {"/ShortName/en", "C"}, {"/ShortName/zh_CN", "C"}, {"/CapacityMode/Interface@Type", "1"},
             {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Width@Value", "1920"},
-            {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Height@Value", "1080"}})},
+            {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Width@Max", "1920"},
+            {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Height@Value", "1080"},
+            {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Height@Max", "1080"}})},
         {FileKind::Resolution, "connectors/resolutionratio.xml", values("DCS/ResolutionRatios/CapacityMode/ResolutionRatio", {
             {"@Width", "1920"}, {"@Height", "1080"}})},
         {FileKind::Menu, "menu/menuconfig.xml", values("LCD/MenuBar/Menu", {
@@ -163,7 +165,9 @@ QString writeSmallRoot(const QString& folder)
         if (!writeFile(path, writeSkeleton(grammarOf(file.kind), file.values))) return path;
     }
     const QString settings = QDir(folder).filePath("settings/lcdsetting.ini");
-    return writeFile(settings, "; What is left out keeps its default.\n") ? QString() : settings;
+    return writeFile(settings, "; What is left out keeps its default.\n[LanguageSetting]\nLanguageValue=en\n")
+               ? QString()
+               : settings;
 }
 
 } // namespace lcdcheck

@@ -16,7 +16,6 @@
 
 namespace lcdcheck {
 
-using reading::Kind;
 using reading::OnNull;
 
 namespace {
@@ -99,7 +98,7 @@ QString TakenElement::value(const QString& name) const
 
 QString storedValue(const HeardFile& file, int element, const HeardAttribute& attribute)
 {
-    const bool isText = attribute.kind == Kind::Text;
+    const bool isText = attribute.kind == reading::Kind::Text;
     if (!attribute.good) return QStringLiteral("0");
     if (!attribute.present) return isText || !attribute.readDefault.isEmpty() ? attribute.readDefault : "0";
     const Source::Element& written = file.source.elements()[std::size_t(element)];
