@@ -128,6 +128,9 @@ const std::vector<SmallFile>& smallRoot()
             {"/TypeName/en", "Device"}, {"/TypeName/zh_CN", "Device"}})},
         {FileKind::Slot, "devices/device/slot.xml", values("DCS/Device/Slots/InputCardSlots", {
             {"@SilkScreenName", "IN"}, {"@InterfaceType", "1"}, {"/Slot@Index", "1"}, {"/Slot/Subcards/Subcard@ModuleId", "1"}})},
+        {FileKind::Screen, "devices/device/screen.xml", values("DCS/Device/Screens/Screen", {
+            {"@Type", "1"}, {"@Support", "1"}, {"@Editable", "1"}, {"/DeviceModes/DeviceMode/LayerTypes/LayerType@Value", "1"}})},
+        {FileKind::Layer, "devices/device/layer.xml", values("DCS/Device/Layers/Layer", {{"@Type", "1"}})},
         {FileKind::Card, "subcards/inputs/1.xml", values("DCS/Subcards/Card", {
             {"@ModelId", "1"}, {"@CardMode", "1"}, {"/Name/en", "Card"}, {"/Name/zh_CN", "Card"},
             {"/Connectors/Connector@Type", "1"}, {"/Connectors/Connector@InterfaceType", "1"},
