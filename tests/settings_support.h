@@ -47,10 +47,9 @@ public:
         else
             _config->readConfig(folder.path());
     }
-    Config& operator*() { return *_config; }
-    const Config& operator*() const { return *_config; }
-    Config* operator->() { return &*_config; }
-    const Config* operator->() const { return &*_config; }
+    // As with a pointer: the getters are not const.
+    Config& operator*() const { return *_config; }
+    Config* operator->() const { return &*_config; }
     /// The component goes, and writes what it may still have to write.
     void close() { _config.reset(); }
     [[nodiscard]] QString text() const
@@ -63,7 +62,7 @@ public:
     Folder folder;
 
 private:
-    std::optional<Config> _config;
+    mutable std::optional<Config> _config;
 };
 
 using Factory = Panel<LCD::MainConfigImpl::LcdConfig>;

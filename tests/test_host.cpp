@@ -281,7 +281,7 @@ void TestHost::namesTheFileOfEachProblem_data()
                                                 << QStringList{ini + ": holds no setting that the panel knows"};
     QTest::newRow("settings: junk between")
         << "settings ROOT" << Files{edited(ini, "[LanguageSetting]", "[LanguageSetting]\njunk")}
-        << QStringList{ini + ": damaged: not every line is a section or a setting"};
+        << QStringList{ini + ": The settings in " + ini + " are damaged; some entries are lost"};
 }
 
 void TestHost::namesTheFileOfEachProblem()

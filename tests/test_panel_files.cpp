@@ -7,6 +7,10 @@
 #include "reading/xmlparse.h"
 #include "support.h"
 
+#include <QThread>
+
+#include <memory>
+
 using namespace LCD::MainConfigImpl;
 
 namespace {
@@ -112,12 +116,32 @@ private Q_SLOTS:
         QVERIFY(last.order == 1 && last.type == 3 && last.comWidgetType == 4 && last.buttonType == 5);
         QVERIFY(last.level == 1 && last.parent.lock() == root);
 
-        // A refused file leaves the tree, another good one adds to it; this one is nested as deep as a file may be.
+        // A refused file leaves the tree, another good one adds to it.
         QVERIFY(load(menu, ".", "<DCS><MenuBar><M Key='x'/></MenuBar></DCS>").startsWith("-") && root->key == "r");
+        QCOMPARE(load(menu, ".", bar("<M><M/></M>")), QString("+"));
+        QCOMPARE(root->children.size(), 3);
+    }
+
+    /// As deep as a file may be nested, read, searched and dropped on a thread with little stack.
+    void menuMayBeDeep()
+    {
         const int deepest = reading::DEEPEST_NESTING - 3; // below the document's root, the bar and the root item
         const QString deep = QString("<M>").repeated(deepest) + "<M Key='deep'/>" + QString("</M>").repeated(deepest);
-        QCOMPARE(load(menu, ".", bar(deep)), QString("+"));
-        QVERIFY(root->children.size() == 3 && menu.findMenuItem("deep")->level == deepest);
+        QString said;
+        int level = 0;
+        QVector<s_MenuItem> copies;
+        const std::unique_ptr<QThread> thread(QThread::create([&] {
+            MenuConfig menu;
+            said = load(menu, ".", bar(deep));
+            level = menu.findMenuItem("deep")->level;
+            copies.fill(*menu.rootMenuItem(), menu.findChidItemsByKey("deep").isEmpty() ? 2 : 0);
+        }));
+        thread->setStackSize(2 * 1024 * 1024);
+        thread->start();
+        thread->wait();
+        QCOMPARE(said, QString("+"));
+        QCOMPARE(level, deepest);
+        QCOMPARE(copies.size(), 2);
     }
 
     void fnBindings()

@@ -23,7 +23,7 @@ struct Entry {
 template <class Config, class Get, class Set = std::nullptr_t>
 Entry entry(const char* key, Get get, const QString& noStore, Set set = nullptr, const QString& unlessAbsent = {})
 {
-    constexpr bool isNumber = std::is_same_v<std::invoke_result_t<Get, const Config&>, int>;
+    constexpr bool isNumber = std::is_same_v<std::invoke_result_t<Get, Config&>, int>;
     const auto check = [=] {
         StandInSync sync;
         const auto read = [&](const Panel<Config>& panel) { return QVariant(std::invoke(get, *panel)).toString(); };
@@ -80,8 +80,8 @@ const std::vector<Entry> entries{
     entry<F>("ScaleSettting/SupportScale", &F::getSupportScale, "1"),
     entry<F>("DomesticDevice/DomesticDevice", &F::getDomesticDevice, "1"),
     entry<F>("UsbKeyboard/SupportUsbKeyboard", &F::getSupportUsbKeyboard, "0"),
-    entry<F>("OffColorSetting/OffLightColor", [](const F& c) { return c.getOffLightColorValue().first; }, "7"),
-    entry<F>("OffColorSetting/LightColorBrightness", [](const F& c) { return c.getOffLightColorValue().second; }, "25"),
+    entry<F>("OffColorSetting/OffLightColor", [](F& c) { return c.getOffLightColorValue().first; }, "7"),
+    entry<F>("OffColorSetting/LightColorBrightness", [](F& c) { return c.getOffLightColorValue().second; }, "25"),
     entry<F>("FnSetting/FnValue3", third(&F::getFnSettingValue), "0", third(&F::setFnSettingValue)),
 
     entry<U>("LanguageSetting/LanguageValue", &U::getLanguage, "", &U::setLanguage, ""),

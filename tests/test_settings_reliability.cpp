@@ -117,7 +117,7 @@ private Q_SLOTS:
 
     void losesNoValueAmongThreads()
     {
-        static constexpr std::pair<void (U::*)(int), int (U::*)() const> own[8] = {
+        static constexpr std::pair<void (U::*)(int), int (U::*)()> own[8] = {
             {&U::setReturnToHomeTime, &U::getReturnToHomeTime},
             {&U::setUserModeSettingValue, &U::getUserModeSettingValue},
             {&U::setStartRecordStreamTriggerType, &U::getStartRecordStreamTriggerType},

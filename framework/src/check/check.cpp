@@ -24,6 +24,8 @@ namespace lcdcheck {
 using lcdcommon::Catalogue;
 using lcdcommon::Folder;
 
+namespace Lcd = LCD::MainConfig;
+
 namespace {
 
 /// What the loss of one file of a catalogue costs: the loaders' doing, which no reader tells.
@@ -87,6 +89,8 @@ private:
     [[nodiscard]] QString shown(const QString& path) const;
     void heard(HeardFile& file);
     void judgeUnread();
+    [[nodiscard]] bool isConsequence(const Folder& folder, const QFileInfo& file);
+    void gatherTypes(const QString& cardFile);
     void judgeDevices();
     void judgeSettings();
     Finding& add(const char* id, const QString& path, const QString& message);
@@ -98,8 +102,9 @@ private:
     Collected _collected;
     Panel _panel;
     Hearing _hearing{[this](HeardFile& file) { heard(file); }, &_vocabulary};
-    QSet<QString> _known; ///< Files that were read, or about which something was said.
-    int _checkedKeys = 0;
+    QSet<QString> _known;               ///< Files that were read, or about which something was said.
+    std::set<qlonglong> _typesOfUnread; ///< Connector types of the cards that no slot takes.
+    std::set<QString> _explained;       ///< What was missing and is held by a file that nobody reads.
 };
 
 Finding& RootCheck::add(const char* id, const QString& path, const QString& message)
@@ -208,6 +213,34 @@ QString whyUnread(const Folder& folder, const QFileInfo& file, const QString& pl
     }
 }
 
+/// The connector types that a card has whose file nobody reads.
+void RootCheck::gatherTypes(const QString& cardFile)
+{
+    Collected collected(fieldsOfReferences());
+    Hearing hearing([&](HeardFile& file) { collected.add(file); }, &_vocabulary);
+    hearing.readInstead(cardFile);
+    drive(FileKind::Card, hearing);
+    hearing.finish();
+    for (const Value& type : collected.all(fieldOf<Lcd::s_SubcardConnector>(&Lcd::s_SubcardConnector::type)))
+        _typesOfUnread.insert(type.number());
+}
+
+/// Whether a file is unread because of a mistake that is told already: a number that leads nowhere and was probably
+/// meant to lead here, or a card that is unread itself and would have led here.
+bool RootCheck::isConsequence(const Folder& folder, const QFileInfo& file)
+{
+    if (folder.catalogue == Catalogue::Connectors && _typesOfUnread.count(file.baseName().toLongLong()) != 0)
+        return true;
+    const bool card = folder.catalogue == Catalogue::Cards;
+    if (!card && folder.catalogue != Catalogue::Connectors) return false;
+    const QString id = card ? "missing-card" : "missing-connector-type";
+    for (const Finding& finding : _out.findings) {
+        const QString place = QString("%1:%2:%3").arg(finding.file).arg(finding.place.line).arg(finding.place.column);
+        if (finding.kind->id == id && _explained.insert(place).second) return true;
+    }
+    return false;
+}
+
 void RootCheck::judgeUnread()
 {
     for (const Folder& folder : lcdcommon::folders()) {
@@ -217,9 +250,12 @@ void RootCheck::judgeUnread()
         QStringList paths;
         while (entries.hasNext()) paths.append(QDir::cleanPath(entries.next()));
         paths.sort();
-        for (const QString& path : paths)
-            if (!_known.contains(path))
+        for (const QString& path : paths) {
+            if (_known.contains(path)) continue;
+            if (folder.catalogue == Catalogue::Cards) gatherTypes(path);
+            if (!isConsequence(folder, QFileInfo(path)))
                 add("unread-file", path, "nobody reads this file: " + whyUnread(folder, QFileInfo(path), place));
+        }
     }
 }
 
@@ -237,12 +273,12 @@ void RootCheck::run()
     }
     judgeSettings();
     judgeDevices();
-    judgeUnread();
     judgeIdentities(_collected, _out.findings);
     judgeReferences(_collected, _out.findings);
     judgePositions(_collected, _out.findings);
     judgeLayouts(_collected, _out.findings);
     judgeResolutions(_collected, _panel.loaded(_root), _out.findings);
+    judgeUnread();
 }
 
 /// The check of one file for itself, of which other files may hold what it refers to.

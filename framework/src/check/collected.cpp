@@ -18,6 +18,7 @@ Value valueOf(const HeardFile& file, int element, const HeardAttribute& asked)
     if (const Source::Attribute* const attribute = source.attribute(written, asked.name)) {
         value.text = source.value(*attribute);
         value.place = source.place(attribute->name);
+        value.good = value.good && !file.isFaulty(*attribute);
     } else {
         // An absent number has a read default that may well be no number.
         value.good = asked.stranger.isEmpty();

@@ -177,14 +177,15 @@ void Grower::scopeBegins(const bool* scope, const QDomElement& element)
     _scopes[scope] = grown != _root.get() ? grown : nullptr;
 }
 
-void Grower::childTested(const QDomElement& parent, const QString& tag, bool found)
+bool Grower::childTested(const QDomElement& parent, const QString& tag, bool found)
 {
     Element* const grown = of(parent);
-    if (grown == nullptr) return;
+    if (grown == nullptr) return found;
     _found[tag] = found;
     Element& child = childOf(*grown, tag);
     child.presenceAsked = true;
     put(parent, child);
+    return found;
 }
 
 bool Grower::contentTested(const QDomElement& /*element*/, bool /*found*/) { return true; }

@@ -32,7 +32,7 @@ public:
     QDomElement child(const QDomElement& parent, const QString& tag, reading::OnNull cost, const bool* scope,
                       const QDomElement& found) override;
     void scopeBegins(const bool* scope, const QDomElement& element) override;
-    void childTested(const QDomElement& parent, const QString& tag, bool found) override;
+    bool childTested(const QDomElement& parent, const QString& tag, bool found) override;
     bool contentTested(const QDomElement& element, bool found) override;
     bool tagTested(const QDomElement& element, const QString& tag, bool is) override;
     void walked(const QDomElement& parent, reading::Walk walk, const QString& tag) override;

@@ -77,6 +77,14 @@ QString HeardFile::pathOf(int element) const
     return tags;
 }
 
+bool HeardFile::isFaulty(const Source::Attribute& attribute) const
+{
+    const auto touches = [&](const Source::Fault& fault) {
+        return fault.span.begin <= attribute.value.end && fault.span.end >= attribute.name.begin;
+    };
+    return std::any_of(source.faults().begin(), source.faults().end(), touches);
+}
+
 // --- Files
 
 void Hearing::finish()
@@ -230,12 +238,13 @@ QDomElement Hearing::child(const QDomElement& parent, const QString& tag, OnNull
 
 void Hearing::scopeBegins(const bool* scope, const QDomElement& element) { _scopes[scope] = indexOf(element); }
 
-void Hearing::childTested(const QDomElement& parent, const QString& tag, bool /*found*/)
+bool Hearing::childTested(const QDomElement& parent, const QString& tag, bool found)
 {
-    const QDomElement element = parent.firstChildElement(tag);
+    const int above = indexOf(parent);
+    const QDomElement element = found ? parent.firstChildElement(tag) : adopt(parent, above, tag);
     if (HeardElement* const heard = heardOf(element)) heard->found = true;
-    const int index = indexOf(element);
-    if (HeardElement* const above = heardOf(parent)) above->children.push_back({tag, index, true});
+    if (above >= 0) _file.elements[std::size_t(above)].children.push_back({tag, indexOf(element), true});
+    return !element.isNull();
 }
 
 bool Hearing::failed(const QDomElement& element, const QString& tag, const bool* scope)

@@ -112,6 +112,8 @@ struct HeardFile {
     /// The tags from the root to an element, under which it was read, as "DCS/Device/Slots".
     [[nodiscard]] QString pathOf(int element) const;
     [[nodiscard]] QString tagOf(int element) const;
+    /// Whether the syntax is at fault in an attribute, so that its value tells nothing.
+    [[nodiscard]] bool isFaulty(const Source::Attribute& attribute) const;
 };
 
 /// The names that a place of a file may hold. It is asked only where something is missing.
@@ -152,7 +154,7 @@ public:
     QDomElement child(const QDomElement& parent, const QString& tag, reading::OnNull cost, const bool* scope,
                       const QDomElement& found) override;
     void scopeBegins(const bool* scope, const QDomElement& element) override;
-    void childTested(const QDomElement& parent, const QString& tag, bool found) override;
+    bool childTested(const QDomElement& parent, const QString& tag, bool found) override;
     bool contentTested(const QDomElement& element, bool found) override;
     bool tagTested(const QDomElement& element, const QString& tag, bool is) override;
     void walked(const QDomElement& parent, reading::Walk walk, const QString& tag) override;

@@ -4,6 +4,7 @@
 #include <lcdmainconfig/connector.h>
 #include <lcdmainconfig/subcard.h>
 
+#include <algorithm>
 #include <map>
 
 namespace lcdcheck {
@@ -30,7 +31,9 @@ using Size = std::pair<qlonglong, qlonglong>;
 
 class Resolutions {
 public:
-    Resolutions(const Collected& collected, Findings& findings) : _collected(collected), _judge(collected, findings) {}
+    Resolutions(const Collected& collected, Findings& findings)
+        : _collected(collected), _findings(findings), _judge(collected, findings)
+    {}
 
     void gather();
     void judgeDisabled();
@@ -40,8 +43,10 @@ public:
 private:
     [[nodiscard]] const Value* on(const Value& value, const Field& field) const;
     void judge(const Value& width, const Value& height, const QString& what);
+    [[nodiscard]] bool isTold(const Value& value) const;
 
     const Collected& _collected;
+    const Findings& _findings;
     Judge _judge;
     std::map<Size, qlonglong> _offered; ///< The lowest capacity mode that offers a size.
     bool _certain = true;               ///< Every standard resolution is known.
@@ -67,10 +72,19 @@ void Resolutions::gather()
     _certain = _certain && !_offered.empty();
 }
 
+/// Whether something is said about a value already.
+bool Resolutions::isTold(const Value& value) const
+{
+    return std::any_of(_findings.begin(), _findings.end(), [&](const Finding& finding) {
+        return finding.file == _collected.fileOf(value).path && finding.place.line == value.place.line &&
+               finding.place.column == value.place.column;
+    });
+}
+
 void Resolutions::judge(const Value& width, const Value& height, const QString& what)
 {
     const Value* const mode = _collected.above(width, CONNECTOR_MODE);
-    if (!_certain || mode == nullptr || !mode->good) return;
+    if (!_certain || mode == nullptr || !mode->good || isTold(width) || isTold(height)) return;
     const auto known = _offered.find({width.number(), height.number()});
     const QString size = QString("%1x%2").arg(width.number()).arg(height.number());
     if (known == _offered.end())

@@ -80,7 +80,7 @@ void Values::judgeNumbers(int element)
     for (const HeardAttribute& asked : heard(element).attributes) {
         if (!asked.present || !isNumber(asked.kind)) continue;
         const Source::Attribute* const written = source.attribute(source.elements()[std::size_t(element)], asked.name);
-        if (written == nullptr) continue;
+        if (written == nullptr || _file.isFaulty(*written)) continue;
         const QString text = source.value(*written);
         const QString stored = storedInstead(text, asked);
         if (stored.isEmpty()) continue;
@@ -98,6 +98,7 @@ Number Values::number(int element, const QString& name) const
     if (asked == nullptr || !asked->present || !asked->good) return {};
     const Source& source = _file.source;
     const Source::Attribute* const written = source.attribute(source.elements()[std::size_t(element)], name);
+    if (written != nullptr && _file.isFaulty(*written)) return {};
     bool good = false;
     const double value = written == nullptr ? 0 : source.value(*written).toDouble(&good);
     return good ? Number{written, value} : Number{};

@@ -5,6 +5,7 @@
 #define LCDCHECK_SOURCE_H
 
 #include "finding.h"
+#include "reading/xmlparse.h"
 
 #include <QByteArray>
 #include <QDomDocument>
@@ -71,8 +72,8 @@ public:
 
     /// No more faults than these are kept, the first ones of each kind of search; see hasMoreFaults().
     static constexpr int MOST_FAULTS = 1000;
-    /// A file beyond this many bytes is not read, which is its one fault.
-    static constexpr int MOST_BYTES = 512 * 1024 * 1024;
+    /// A file beyond this many bytes is not read, which is its one fault. The panel does not read it either.
+    static constexpr int MOST_BYTES = LCD::MainConfigImpl::reading::LARGEST_FILE;
 
     /// Reads a file's content. Never fails: an empty one is a source without elements and with a fault.
     static Source read(const QByteArray& bytes);
@@ -120,8 +121,9 @@ public:
     [[nodiscard]] const QString& encoding() const { return _encoding; }
 
     /// The recovered tree, with names as namespace processing gives them, but without namespaces' URIs. Elements nested
-    /// deeper than reading::DEEPEST_NESTING, and further roots with all below them, are left out. `placed` receives for
-    /// each element of elements() its element in the document, null for those left out.
+    /// deeper than reading::DEEPEST_NESTING or beyond reading's other bounds, and further roots with all below them,
+    /// are left out. `placed` receives for each element of elements() its element in the document, null for those left
+    /// out.
     [[nodiscard]] QDomDocument toDocument(std::vector<QDomElement>* placed = nullptr) const;
     /// The elements of a document that was parsed from the same bytes, in the order of elements(). Empty when the two
     /// don't agree one to one, tags included.

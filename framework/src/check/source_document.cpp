@@ -3,20 +3,24 @@
 
 #include "reading/xmlparse.h"
 
+#include <algorithm>
+
 namespace lcdcheck {
 
-using LCD::MainConfigImpl::reading::DEEPEST_NESTING;
+namespace reading = LCD::MainConfigImpl::reading;
 
 QDomDocument Source::toDocument(std::vector<QDomElement>* placed) const
 {
     QDomDocument document;
     std::vector<QDomElement> built(_elements.size());
     std::vector<int> depths(_elements.size());
+    qint64 levels = 0;
     auto text = _texts.begin();
     const auto textsBefore = [&](int index) {
         for (; text != _texts.end() && text->next <= index; ++text) {
             QDomElement& parent = built[size_t(text->parent)];
-            if (parent.isNull()) continue;
+            levels += depths[size_t(text->parent)] + 1;
+            if (parent.isNull() || levels > reading::MOST_LEVELS) continue;
             if (text->cdata)
                 parent.appendChild(document.createCDATASection(value(*text)));
             else
@@ -29,9 +33,13 @@ QDomDocument Source::toDocument(std::vector<QDomElement>* placed) const
         const bool isRoot = i == 0;
         const QDomElement parent = isRoot || element.parent < 0 ? QDomElement() : built[size_t(element.parent)];
         depths[i] = element.parent < 0 ? 1 : depths[size_t(element.parent)] + 1;
-        if (depths[i] > DEEPEST_NESTING || (parent.isNull() && !isRoot)) continue;
+        if (depths[i] > reading::DEEPEST_NESTING || (parent.isNull() && !isRoot)) continue;
+        const auto written =
+            attributes(element).first(size_t(std::min(element.attributeCount, reading::MOST_ATTRIBUTES)));
+        levels += qint64(depths[i]) * (1 + qint64(written.size()));
+        if (levels > reading::MOST_LEVELS) continue;
         built[i] = document.createElementNS(QString(), tag(element));
-        for (const Attribute& attribute : attributes(element)) {
+        for (const Attribute& attribute : written) {
             const QString name = slice(attribute.name).toString();
             if (name != QLatin1String("xmlns") && !name.startsWith(QLatin1String("xmlns:")))
                 built[i].setAttributeNS(QString(), name, value(attribute));

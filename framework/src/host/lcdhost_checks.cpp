@@ -6,10 +6,7 @@
 #include "lcdhost_slots.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSettings>
-#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -108,14 +105,6 @@ void Session::noteUnread(Catalogue catalogue, const QString& path)
 void Session::checkSettings(const QString& file)
 {
     if (!hasAnySetting(settings())) note(file, {"holds no setting that the panel knows"});
-    // A copy, since objects on one file share what they have read of it, and the damage is told to the first alone.
-    const QTemporaryDir aside;
-    const QString copy = aside.filePath("copy.ini");
-    if (!QFile::copy(file, copy)) return;
-    const QSettings ini(copy, QSettings::IniFormat);
-    // A section is looked at when its keys are asked for.
-    if (!ini.allKeys().isEmpty() && ini.status() == QSettings::FormatError)
-        note(file, {"damaged: not every line is a section or a setting"});
 }
 
 void Session::noteEmpty(Catalogue catalogue)

@@ -115,8 +115,8 @@ public:
     /// A scope of failure begins: what fails in it costs what is read of this element from here on, and no more. The
     /// address is the scope's name until another scope begins under it.
     virtual void scopeBegins(const bool* /*scope*/, const QDomElement& /*element*/) {}
-    /// Whether a child of that tag is there at all; its absence costs nothing yet.
-    virtual void childTested(const QDomElement& /*parent*/, const QString& /*tag*/, bool /*found*/) {}
+    /// Whether a child of that tag is there at all; its absence costs nothing yet. The result counts.
+    virtual bool childTested(const QDomElement& /*parent*/, const QString& /*tag*/, bool found) { return found; }
     /// Whether the element holds anything. The result counts.
     virtual bool contentTested(const QDomElement& /*element*/, bool found) { return found; }
     /// Whether the element's tag is this one; a reader with several answers asks for each in turn. The result counts.

@@ -15,17 +15,16 @@ struct Made {
     QString string;
 };
 
-// Every string that was made stands here, at the place that the address of its text gives or behind it. There are four
-// times as many places as the library has literals. Strings are only ever added, so that a look-up takes no lock; and
-// nothing belongs to a thread, which would keep the library from being unloaded for as long as the thread lives.
-constexpr unsigned BITS = 13;
-constinit std::array<std::atomic<const Made*>, std::size_t{1} << BITS> places{};
+// Every string that was made stands here, at the place that the address of its text gives or behind it; literals lie
+// close together, so that hardly two want the same. There are many times as many places as the library has literals.
+// Strings are only ever added, so that a look-up takes no lock; and nothing belongs to a thread, which would keep the
+// library from being unloaded for as long as the thread lives.
+constinit std::array<std::atomic<const Made*>, 8192> places{};
 
 /// The literal's place, or the free one where it belongs.
 std::atomic<const Made*>& placeOf(const char* text)
 {
-    constexpr std::uint64_t spread = 0x9E3779B97F4A7C15U;
-    for (std::size_t at = (reinterpret_cast<std::uintptr_t>(text) * spread) >> (64U - BITS);; ++at) {
+    for (std::size_t at = reinterpret_cast<std::uintptr_t>(text);; ++at) {
         std::atomic<const Made*>& place = places[at % places.size()];
         const Made* const made = place.load(std::memory_order_acquire);
         if (made == nullptr || made->text == text) return place;

@@ -46,8 +46,7 @@ void Reader::note(Literal tag, const char* message) const
 bool Reader::has(Literal tag) const
 {
     const bool found = !_element.firstChildElement(tag.string()).isNull();
-    if (listener() != nullptr) listener()->childTested(_element, tag.string(), found);
-    return found;
+    return listener() != nullptr ? listener()->childTested(_element, tag.string(), found) : found;
 }
 
 bool Reader::hasAttribute(Literal name) const
@@ -70,7 +69,10 @@ bool Reader::is(Literal tag) const
 
 QString Reader::attribute(Literal name, Literal readDefault) const
 {
-    return _element.attribute(name.string(), readDefault.string());
+    // No text of a file is this very string, so that only an absent attribute costs its default.
+    static const QString absent(QStringLiteral("absent"));
+    QString text = _element.attribute(name.string(), absent);
+    return text.isSharedWith(absent) ? readDefault.string() : text;
 }
 
 QString Reader::text(Literal name, Literal readDefault) const
