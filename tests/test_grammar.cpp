@@ -3,6 +3,7 @@
 #include "support.h"
 
 #include "check/check.h"
+#include "check/difference.h"
 #include "check/drive.h"
 #include "check/reference.h"
 #include "check/schema.h"
@@ -254,6 +255,40 @@ private Q_SLOTS:
         for (const Finding& finding : checked.findings) messages.append(finding.file + ": " + finding.message);
         QCOMPARE(messages, QStringList());
         QVERIFY(!writeSmallRoot(folder.path()).isEmpty()); // nothing is overwritten
+    }
+
+    void differencesAreThoseOfMeaning()
+    {
+        const Folder folder;
+        QCOMPARE(writeSmallRoot(folder.path("old")), QString());
+        QCOMPARE(writeSmallRoot(folder.path("new")), QString());
+        const auto edit = [&](const QString& file, const QString& from, const QString& to) {
+            QFile text(folder.path("new/" + file));
+            QVERIFY(text.open(QIODevice::ReadOnly));
+            const QString before = QString::fromUtf8(text.readAll());
+            QVERIFY(before.contains(from));
+            folder.write("new/" + file, QString(before).replace(from, to));
+        };
+        const auto found = [&] {
+            QStringList all;
+            for (const Difference& difference :
+                 differences(takenFrom(folder.path("old")), takenFrom(folder.path("new"))))
+                all << QString("%1 %2 %3 %4")
+                           .arg(int(difference.change))
+                           .arg(difference.path, difference.attribute, difference.after);
+            return all;
+        };
+        // Read defaults left out, letters for a 0, comments and what nobody reads are no differences.
+        edit("subcards/inputs/1.xml", " InterlacedMaxCount=\"0\"", " InterlacedMaxCount=\"none\" Other=\"1\"");
+        edit("connectors/1.xml", "<Connectors>", "<!-- moved --><Connectors><!-- down -->\n\n");
+        QCOMPARE(found(), QStringList());
+        edit("menu/menuconfig.xml", "Key=\"input\" Order=\"0\"", "Key=\"input\" Order=\"4\"");
+        edit("subcards/inputs/1.xml", "<Connectors>", "<Connectors><Connector Position=\"8\"/>");
+        QCOMPARE(found(), QStringList({"0 DCS/Subcards/Card/Connectors/Connector[Position=8]  ",
+                                       "2 LCD/MenuBar/Menu/Menu Order 4"}));
+        // A card without a name is dropped, and so is not in what the panel takes.
+        edit("subcards/inputs/1.xml", "Name>", "Named>");
+        QVERIFY(found().contains("1 DCS/Subcards/Card  "));
     }
 
 private:

@@ -15,8 +15,9 @@ using Group = std::vector<const TakenElement*>;
 /// By these the library finds an element, or its author does; the first that tells all of a list apart counts.
 const QStringList& keys()
 {
-    static const QStringList all{"ModelId", "ModuleId", "Index", "index",    "Position",    "Type",           "Code",
-                                 "Key",     "Id",       "Value", "ScreenId", "ConnectorId", "RectangleIndex", "Order"};
+    static const QStringList all{"ModelId",  "ModuleId", "Key",         "Index",          "index",
+                                 "Position", "Code",     "Id",          "lcdKey",         "Type",
+                                 "Value",    "ScreenId", "ConnectorId", "RectangleIndex", "Order"};
     return all;
 }
 
@@ -117,19 +118,26 @@ private:
     QString _file;
 };
 
-/// What tells which file of one root is that of another. A card file counts wherever it stands below its catalogue.
-QString identityOf(const TakenFile& file)
+const TakenFile* fileAt(const QString& path, const std::vector<TakenFile>& files)
 {
-    const QString catalogue = file.path.section('/', 0, 0);
-    return catalogue == "subcards" ? catalogue + '/' + QFileInfo(file.path).fileName() : file.path;
+    const auto found =
+        std::find_if(files.begin(), files.end(), [&](const TakenFile& candidate) { return candidate.path == path; });
+    return found != files.end() ? &*found : nullptr;
 }
 
-const TakenFile* counterpart(const TakenFile& file, const std::vector<TakenFile>& files)
+/// The file of the other root that is this one: that of the same path, or else one of the same name that has moved
+/// inside its catalogue.
+const TakenFile* counterpart(const TakenFile& file, const std::vector<TakenFile>& own,
+                             const std::vector<TakenFile>& others)
 {
-    const auto found = std::find_if(files.begin(), files.end(), [&](const TakenFile& candidate) {
-        return identityOf(candidate) == identityOf(file);
-    });
-    return found != files.end() ? &*found : nullptr;
+    if (const TakenFile* const same = fileAt(file.path, others)) return same;
+    const auto isMoved = [&](const TakenFile& candidate) {
+        return candidate.path.section('/', 0, 0) == file.path.section('/', 0, 0) &&
+               QFileInfo(candidate.path).fileName() == QFileInfo(file.path).fileName() &&
+               fileAt(candidate.path, own) == nullptr;
+    };
+    const auto moved = std::find_if(others.begin(), others.end(), isMoved);
+    return moved != others.end() ? &*moved : nullptr;
 }
 
 } // namespace
@@ -138,7 +146,7 @@ std::vector<Difference> differences(const std::vector<TakenFile>& before, const 
 {
     std::vector<Difference> all;
     for (const TakenFile& file : before) {
-        const TakenFile* const other = counterpart(file, after);
+        const TakenFile* const other = counterpart(file, before, after);
         if (other == nullptr) {
             all.push_back({Change::Removed, file.path, {}, {}, {}, {}});
             continue;
@@ -148,7 +156,7 @@ std::vector<Difference> differences(const std::vector<TakenFile>& before, const 
         all.insert(all.end(), comparison.found.begin(), comparison.found.end());
     }
     for (const TakenFile& file : after)
-        if (counterpart(file, before) == nullptr) all.push_back({Change::Added, file.path, {}, {}, {}, {}});
+        if (counterpart(file, after, before) == nullptr) all.push_back({Change::Added, file.path, {}, {}, {}, {}});
     return all;
 }
 

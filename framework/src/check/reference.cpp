@@ -66,7 +66,9 @@ QString countOf(const Element& element)
 
 QString absenceOf(const Element& element)
 {
-    if (element.refused) return QStringLiteral("must not be there: its presence counts as a fault");
+    if (element.refused)
+        return QStringLiteral(
+            "best left out: its presence counts as a fault and ends the reading of what it stands in");
     if (element.lookUps.empty())
         return element.presenceAsked ? QStringLiteral("it counts whether it is there") : QString();
     const Element* const scope = element.lookUps.front().scope;

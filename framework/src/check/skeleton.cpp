@@ -128,6 +128,9 @@ const std::vector<SmallFile>& smallRoot()
             {"/TypeName/en", "Device"}, {"/TypeName/zh_CN", "Device"}})},
         {FileKind::Slot, "devices/device/slot.xml", values("DCS/Device/Slots/InputCardSlots", {
             {"@SilkScreenName", "IN"}, {"@InterfaceType", "1"}, {"/Slot@Index", "1"}, {"/Slot/Subcards/Subcard@ModuleId", "1"}})},
+        {FileKind::Screen, "devices/device/screen.xml", values("DCS/Device/Screens/Screen", {
+            {"@Type", "1"}, {"@Support", "1"}, {"@Editable", "1"}, {"/DeviceModes/DeviceMode/LayerTypes/LayerType@Value", "1"}})},
+        {FileKind::Layer, "devices/device/layer.xml", values("DCS/Device/Layers/Layer", {{"@Type", "1"}})},
         {FileKind::Card, "subcards/inputs/1.xml", values("DCS/Subcards/Card", {
             {"@ModelId", "1"}, {"@CardMode", "1"}, {"/Name/en", "Card"}, {"/Name/zh_CN", "Card"},
             {"/Connectors/Connector@Type", "1"}, {"/Connectors/Connector@InterfaceType", "1"},
@@ -136,7 +139,9 @@ const std::vector<SmallFile>& smallRoot()
             {"@Type", "1"}, {"/Name/en", "Connector"}, {"/Name/zh_CN", "Connector"},
             {"/ShortName/en", "C"}, {"/ShortName/zh_CN", "C"}, {"/CapacityMode/Interface@Type", "1"},
             {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Width@Value", "1920"},
-            {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Height@Value", "1080"}})},
+            {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Width@Max", "1920"},
+            {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Height@Value", "1080"},
+            {"/CapacityMode/Interface/CapacityMode/ResolutionRatios/ResolutionRatio/Height@Max", "1080"}})},
         {FileKind::Resolution, "connectors/resolutionratio.xml", values("DCS/ResolutionRatios/CapacityMode/ResolutionRatio", {
             {"@Width", "1920"}, {"@Height", "1080"}})},
         {FileKind::Menu, "menu/menuconfig.xml", values("LCD/MenuBar/Menu", {
@@ -163,7 +168,9 @@ QString writeSmallRoot(const QString& folder)
         if (!writeFile(path, writeSkeleton(grammarOf(file.kind), file.values))) return path;
     }
     const QString settings = QDir(folder).filePath("settings/lcdsetting.ini");
-    return writeFile(settings, "; What is left out keeps its default.\n") ? QString() : settings;
+    return writeFile(settings, "; What is left out keeps its default.\n[LanguageSetting]\nLanguageValue=en\n")
+               ? QString()
+               : settings;
 }
 
 } // namespace lcdcheck
