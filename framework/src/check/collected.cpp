@@ -29,10 +29,10 @@ Value valueOf(const HeardFile& file, int element, const HeardAttribute& asked)
 
 QString CollectedFile::pathOf(int element) const
 {
-    QString path;
+    QString tagPath;
     for (int at = element; at >= 0; at = parents[std::size_t(at)])
-        path.prepend(path.isEmpty() ? tags[std::size_t(at)] : tags[std::size_t(at)] + '/');
-    return path;
+        tagPath.prepend(tagPath.isEmpty() ? tags[std::size_t(at)] : tags[std::size_t(at)] + '/');
+    return tagPath;
 }
 
 bool CollectedFile::isWithin(int element, int ancestor) const
@@ -52,10 +52,12 @@ void Collected::add(const HeardFile& file)
         kept.tags.push_back(file.tagOf(int(element)));
         kept.places.push_back(file.source.place(written));
         for (const HeardAttribute& asked : file.elements[element].attributes) {
-            if (!_wanted.contains(asked.field)) continue;
-            Value value = valueOf(file, int(element), asked);
-            value.file = number;
-            _values[asked.field].push_back(std::move(value));
+            for (const Field& field : {asked.field, asked.outer}) {
+                if (!_wanted.contains(field)) continue;
+                Value value = valueOf(file, int(element), asked);
+                value.file = number;
+                _values[field].push_back(std::move(value));
+            }
         }
     }
     _files.push_back(std::move(kept));

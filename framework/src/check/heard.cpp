@@ -71,10 +71,10 @@ QString HeardFile::tagOf(int element) const
 
 QString HeardFile::pathOf(int element) const
 {
-    QString path;
+    QString tags;
     for (int at = element; at >= 0; at = source.elements()[std::size_t(at)].parent)
-        path.prepend(path.isEmpty() ? tagOf(at) : tagOf(at) + '/');
-    return path;
+        tags.prepend(tags.isEmpty() ? tagOf(at) : tagOf(at) + '/');
+    return tags;
 }
 
 // --- Files
@@ -309,7 +309,14 @@ void Hearing::asked(const QDomElement& element, const reading::Asked& asked)
     const auto known = std::find_if(heard->attributes.begin(), heard->attributes.end(),
                                     [&](const HeardAttribute& attribute) { return attribute.name == asked.name; });
     if (known != heard->attributes.end() && asked.field.address == nullptr) return;
-    HeardAttribute attribute{asked.name, asked.kind, asked.readDefault, asked.present, asked.good, {}, fieldAt(asked)};
+    HeardAttribute attribute{asked.name, asked.kind, asked.readDefault, asked.present, asked.good};
+    attribute.field = fieldAt(asked);
+    if (asked.record.address != nullptr && *asked.record.type != *asked.field.type) {
+        attribute.outer = around(asked.record);
+        attribute.outer.offset += attribute.field.offset;
+        attribute.whole = asked.record.size == asked.field.size;
+    } else
+        attribute.whole = asked.record.address != nullptr;
     if (known != heard->attributes.end())
         *known = std::move(attribute);
     else
@@ -324,17 +331,22 @@ Field Hearing::fieldAt(const reading::Asked& asked) const
     };
     if (asked.record.type != nullptr && *asked.record.type != *asked.field.type)
         return {*asked.record.type, offsetIn(asked.record, asked.field.address)};
-    // The text or number is all that the row fills: a member of a record that was begun before, or an entry that will
-    // be put into one.
-    reading::Location place = asked.field;
+    // The text or number is all that the row fills: a member of a record that was begun before, or an entry of a list.
+    return around(asked.field);
+}
+
+/// The member of a record that holds a location, or the list into which it will be put.
+Field Hearing::around(const reading::Location& location) const
+{
+    reading::Location place = location;
     for (auto aside = _asides.rbegin(); aside != _asides.rend(); ++aside)
         if (aside->first.address == place.address && *aside->first.type == *place.type) {
             place = aside->second;
             break;
         }
     for (auto record = _records.rbegin(); record != _records.rend(); ++record)
-        if (contains(*record, place.address) && *record->type != *place.type)
-            return {*record->type, offsetIn(*record, place.address)};
+        if (contains(*record, place.address) && *record->type != *location.type)
+            return {*record->type, static_cast<const char*>(place.address) - static_cast<const char*>(record->address)};
     return {};
 }
 

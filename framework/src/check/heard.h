@@ -6,6 +6,7 @@
 #include "source.h"
 
 #include "reading/document.h"
+#include "reading/xmlparse.h"
 
 #include <QHash>
 
@@ -37,6 +38,13 @@ template <class Record, class Member, class Owner> Field fieldOf(Member Owner::*
             reinterpret_cast<const char*>(&(record.*inRecord)) - reinterpret_cast<const char*>(&record)};
 }
 
+/// A field of a record that is itself a member of another one.
+template <class Record, class Owner, class Member, class InnerOwner, class Inner>
+Field fieldOf(Member Owner::*member, Inner InnerOwner::*inner)
+{
+    return {typeid(Record), fieldOf<Record>(member).offset + fieldOf<Member>(inner).offset};
+}
+
 /// An attribute that was asked for. Where readers ask for it several times, the last one that fills a field counts.
 struct HeardAttribute {
     QString name; ///< Empty: the element's text.
@@ -46,6 +54,8 @@ struct HeardAttribute {
     bool good = true; ///< Whether what is there is of the kind.
     QString stranger; ///< An attribute that nobody asked for and that was probably meant to be this absent one.
     Field field;
+    Field outer;        ///< The same field in the record around that of the element; nothing for entries of lists.
+    bool whole = false; ///< The field is all that its record holds.
 };
 
 /// A child that was looked up by its tag.
@@ -159,6 +169,7 @@ private:
     [[nodiscard]] int indexOf(const QDomElement& element);
     [[nodiscard]] HeardElement* heardOf(const QDomElement& element);
     [[nodiscard]] Field fieldAt(const reading::Asked& asked) const;
+    [[nodiscard]] Field around(const reading::Location& location) const;
     void miss(int parent, const QString& tag, reading::OnNull cost, const bool* scope);
     [[nodiscard]] QDomElement putIn(int parent, const QString& tag);
     [[nodiscard]] bool isStranger(int parent, const QString& tag);

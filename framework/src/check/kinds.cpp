@@ -75,7 +75,8 @@ devices/halcyon16/faeture.xml    (not told as the feature file))"},
          R"(<Width Min="640" Max="1920"/>
 <Width Min="640" Max="4096"/>    <!-- not read -->)"},
         {"unknown-key", Warning, "an entry of an ini file that nobody asks for",
-         "The panel never asks for this key, so that its value has no effect. The key it was meant for reads as 0 or as "
+         "The panel never asks for this key, so that its value has no effect. The key it was meant for reads as 0 or "
+         "as "
          "an empty text.",
          "Correct the key or the section it stands in. Some names of the format are misspelled themselves.",
          R"([LightColorSetting]
@@ -93,7 +94,8 @@ LightColour=3                    ; meant: LightColor)"},
          R"(<?xml version="1.0" encoding="UTF-8"?>
 <zh_CN>\xB7\xAD\xB4\xE4</zh_CN>  <!-- bytes of GBK -->)"},
         {"value-out-of-range", Warning, "a value lies outside its own limits",
-         "\"Value\" is the value from the factory, \"Min\" and \"Max\" limit what the user may choose. The panel starts "
+         "\"Value\" is the value from the factory, \"Min\" and \"Max\" limit what the user may choose. The panel "
+         "starts "
          "with a value that the user can't choose again.",
          "Correct the value, or widen the limits.", R"(<Opacity Value="120" Min="0" Max="100"/>)"},
         {"empty-range", Warning, "the lower limit lies above the upper one",
@@ -146,7 +148,8 @@ LightColour=3                    ; meant: LightColor)"},
          "Correct the connector's number, which is the \"Position\" on the card.",
          R"(<Key Slot="2" Connector="9" Order="1"/>  <!-- its cards have 1 to 4 -->)"},
         {"missing-position", Warning, "a group names a connector that the card does not have",
-         "Groups and modes of a card name its connectors by \"Position\". The card's plain list has none with this one.",
+         "Groups and modes of a card name its connectors by \"Position\". The card's plain list has none with this "
+         "one.",
          "Correct the position, or add the connector to \"Connectors\".",
          R"(<Connector Type="1" Position="5"/>  <!-- in a group of a card with 1 to 4 -->)"},
         {"missing-resolution", Warning, "a resolution is named that the resolution file does not offer",
@@ -163,7 +166,8 @@ LightColour=3                    ; meant: LightColor)"},
         {"unread-file", Warning, "a file that is not read",
          "Only what is referred to is read: cards that some slot takes, connector types that some card has, and files "
          "of a device whose names tell their kind. This one is passed over in silence.",
-         "Refer to it, rename it, or keep it elsewhere.", R"(subcards/inputs/299.xml          (no slot takes model 299))"},
+         "Refer to it, rename it, or keep it elsewhere.",
+         R"(subcards/inputs/299.xml          (no slot takes model 299))"},
 
         // ---- Layouts ----
         {"overlapping-cells", Warning, "two cells of a layout cover the same pixels",

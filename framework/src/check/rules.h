@@ -5,6 +5,7 @@
 
 #include "collected.h"
 #include "finding.h"
+#include "loaded.h"
 
 namespace lcdcheck {
 
@@ -41,10 +42,34 @@ void judgeValues(const HeardFile& file, Findings& findings);
 
 // --- Several files
 
+/// Adds the findings of rules over several files.
+class Judge {
+public:
+    Judge(const Collected& collected, Findings& findings) : _collected(collected), _findings(findings) {}
+
+    Finding& about(const char* id, const Value& value, const QString& message);
+    /// "line 12", or "line 12 of slot.xml" where that is another file than `here`'s.
+    [[nodiscard]] QString where(const Value& value, const Value& here) const;
+
+private:
+    const Collected& _collected;
+    Findings& _findings;
+};
+
 /// The fields that the rules below compare.
+std::set<Field> fieldsOfIdentities();
 std::set<Field> fieldsOfReferences();
-/// duplicate-identifier, shadowed and all that one file says of another.
+std::set<Field> fieldsOfLayouts();
+std::set<Field> fieldsOfResolutions();
+
+/// duplicate-identifier, shadowed.
+void judgeIdentities(const Collected& collected, Findings& findings);
+/// missing-card, missing-connector-type, missing-layer-type, missing-slot, missing-connector, missing-position.
 void judgeReferences(const Collected& collected, Findings& findings);
+/// overlapping-cells, cell-outside.
+void judgeLayouts(const Collected& collected, Findings& findings);
+/// missing-resolution, no-resolution.
+void judgeResolutions(const Collected& collected, const Loaded& loaded, Findings& findings);
 
 } // namespace lcdcheck
 

@@ -48,6 +48,25 @@ int rivalOf(const Spot& spot)
     return -1;
 }
 
+/// Whether a look-up or a walk by its own tag has come to the element.
+bool isWanted(const Spot& spot)
+{
+    const auto& visits = spot.heard().visits;
+    const auto& children = spot.file.elements[std::size_t(spot.written().parent)].children;
+    return std::any_of(visits.begin(), visits.end(), [&](const HeardWalk& visit) { return visit.tag == spot.tag(); }) ||
+           std::any_of(children.begin(), children.end(),
+                       [&](const HeardChild& child) { return child.element == spot.index; });
+}
+
+/// The walk that looks for its elements however deep below one that holds this one; null when there is none.
+const HeardWalk* deepWalkAbove(const Spot& spot)
+{
+    for (int above = spot.written().parent; above >= 0; above = spot.file.source.elements()[std::size_t(above)].parent)
+        for (const HeardWalk& walk : spot.file.elements[std::size_t(above)].walks)
+            if (walk.walk == Walk::Descendants) return &walk;
+    return nullptr;
+}
+
 class Structure {
 public:
     Structure(const HeardFile& file, const Vocabulary* vocabulary, Findings& findings)
@@ -60,6 +79,7 @@ public:
     void judgeDefaults(const Spot& spot);
 
 private:
+    void judgeDeep(const Spot& spot, const QString& wanted);
     void unread(const Spot& spot);
     void unknown(const Spot& spot, const QStringList& names);
     void unexpected(const Spot& spot);
@@ -73,16 +93,28 @@ private:
 void Structure::judgeElement(const Spot& spot)
 {
     const int parent = spot.written().parent;
-    if (parent < 0 || !_file.elements[std::size_t(parent)].read) return;
+    if (parent < 0) return;
     const HeardElement& heard = spot.heard();
+    if (const HeardWalk* const walk = deepWalkAbove(spot); walk != nullptr && !heard.found)
+        return judgeDeep(spot, walk->tag);
+    if (!_file.elements[std::size_t(parent)].read) return;
     if (!heard.meant.isEmpty())
         unknown(spot, {heard.meant});
     else if (!heard.found)
         unread(spot);
-    else if (!heard.testedTags.isEmpty() && !heard.tagFits)
+    else if (!heard.testedTags.isEmpty() && !heard.tagFits && !isWanted(spot))
         unknown(spot, heard.testedTags);
     else
         unexpected(spot);
+}
+
+/// Where elements are looked for however deep, any element may hold them; one that holds nothing was meant to be one.
+void Structure::judgeDeep(const Spot& spot, const QString& wanted)
+{
+    const auto& elements = _file.source.elements();
+    const auto next = std::size_t(spot.index) + 1;
+    const bool holdsElements = next < elements.size() && elements[next].parent == spot.index;
+    if (!holdsElements && spot.written().attributeCount > 0) unknown(spot, {wanted});
 }
 
 void Structure::unread(const Spot& spot)

@@ -1,25 +1,28 @@
 // The values of a file: numbers that are none, values outside their own range or list.
 #include "rules.h"
 
+#include <lcdmainconfig/common.h>
+
 #include <QHash>
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 
 namespace lcdcheck {
 
-using reading::Kind;
-
 namespace {
 
-bool isNumber(Kind kind) { return kind != Kind::Text; }
+bool isNumber(reading::Kind kind) { return kind != reading::Kind::Text; }
 
-bool hasDecimals(Kind kind) { return kind == Kind::Float || kind == Kind::Double || kind == Kind::Hundredths; }
+bool hasDecimals(reading::Kind kind)
+{
+    return kind == reading::Kind::Float || kind == reading::Kind::Double || kind == reading::Kind::Hundredths;
+}
 
-QString wanted(Kind kind) { return hasDecimals(kind) ? "a number" : "a whole number"; }
+QString wanted(reading::Kind kind) { return hasDecimals(kind) ? "a number" : "a whole number"; }
 
 /// What is wrong with a text that is no number of the kind.
-QString flaw(const QString& text, Kind kind)
+QString flaw(const QString& text, reading::Kind kind)
 {
     const QString trimmed = text.trimmed();
     bool good = false;
@@ -31,7 +34,8 @@ QString flaw(const QString& text, Kind kind)
     if (hasDecimals(kind)) return "is too large";
     if (number != std::floor(number)) return "has decimals";
     if (trimmed.contains('.') || trimmed.contains('e', Qt::CaseInsensitive)) return "is not written as a whole number";
-    const bool isUnsigned = kind == Kind::Unsigned16 || kind == Kind::Unsigned32 || kind == Kind::Unsigned64;
+    const bool isUnsigned =
+        kind == reading::Kind::Unsigned16 || kind == reading::Kind::Unsigned32 || kind == reading::Kind::Unsigned64;
     return isUnsigned && number < 0 ? "is negative" : "is too large";
 }
 
@@ -42,7 +46,7 @@ QString storedInstead(const QString& text, const HeardAttribute& asked)
     if (hasDecimals(asked.kind) && !std::isfinite(text.toDouble())) return text.trimmed();
     constexpr uint LOW_BITS = 0xffff;
     const uint number = text.toUInt();
-    if (asked.kind == Kind::Unsigned32 && number > LOW_BITS) return QString::number(number & LOW_BITS);
+    if (asked.kind == reading::Kind::Unsigned32 && number > LOW_BITS) return QString::number(number & LOW_BITS);
     return {};
 }
 
@@ -122,12 +126,9 @@ void Values::judgeRange(int element)
 /// Whether an element is one allowed value of the element above it: an entry of a list of values.
 bool Values::isEntry(int element) const
 {
-    using namespace LCD::MainConfig;
-    static const std::array entries{fieldOf<EnumValue>(&EnumValue::value),
-                                    fieldOf<ConnectorEnumValue>(&ConnectorEnumValue::value),
-                                    fieldOf<s_EnumStringValue>(&s_EnumStringValue::value)};
+    static const Field named = fieldOf<LCD::MainConfig::s_EnumStringValue>(&LCD::MainConfig::s_EnumStringValue::value);
     const HeardAttribute* const asked = heard(element).attribute("Value");
-    return asked != nullptr && std::find(entries.begin(), entries.end(), asked->field) != entries.end();
+    return asked != nullptr && !heard(element).visits.empty() && (asked->whole || asked->field == named);
 }
 
 void Values::judgeList(int element, const std::vector<int>& children)

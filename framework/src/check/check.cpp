@@ -1,0 +1,234 @@
+// One whole check: the components load a root in the panel's order while the checker listens, and the rules judge what
+// was heard, file by file and then all files together.
+#include "check.h"
+
+#include "panel.h"
+#include "rules.h"
+
+#include "common/access.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QSet>
+
+#include <memory>
+#include <set>
+
+namespace lcdcheck {
+
+using lcdcommon::Catalogue;
+using lcdcommon::Folder;
+
+namespace {
+
+/// What the loss of one file of a catalogue costs: the loaders' doing, which no reader tells.
+QString costOfFile(Catalogue catalogue)
+{
+    switch (catalogue) {
+    case Catalogue::Devices:
+        return "the device does without this file";
+    case Catalogue::Cards:
+        return "this card file is lost, and no further card is read";
+    case Catalogue::Connectors:
+        return "this connector file is lost, and no further one is read";
+    case Catalogue::Menu:
+        return "the menu stays empty";
+    case Catalogue::FunctionKeys:
+        return "the rest of the function keys is not read";
+    case Catalogue::KeyChecks:
+        return "this key list is lost, and no further one may be read";
+    case Catalogue::LockAreas:
+        return "no further lock area is read";
+    case Catalogue::Settings:
+        return "every setting reads as its default";
+    }
+    return {};
+}
+
+/// The messages of a load are for the panel's log; what they say is found and told in another way.
+void dropMessage(QtMsgType /*type*/, const QMessageLogContext& /*where*/, const QString& /*text*/) {}
+
+class Silence {
+public:
+    Silence() : _before(qInstallMessageHandler(dropMessage)) {}
+    ~Silence() { qInstallMessageHandler(_before); }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+
+private:
+    QtMessageHandler _before;
+};
+
+std::set<Field> comparedFields()
+{
+    std::set<Field> fields;
+    for (const auto& some : {fieldsOfIdentities(), fieldsOfReferences(), fieldsOfLayouts(), fieldsOfResolutions()})
+        fields.insert(some.begin(), some.end());
+    return fields;
+}
+
+/// The check of one root.
+class RootCheck {
+public:
+    RootCheck(QString root, Checked& out, const std::function<void(const QString&)>& progress)
+        : _root(std::move(root)), _out(out), _progress(progress), _collected(comparedFields())
+    {}
+
+    void run();
+
+private:
+    void load(const Folder& folder);
+    [[nodiscard]] QString shown(const QString& path) const;
+    void heard(HeardFile& file);
+    void judgeUnread();
+    void judgeDevices();
+    Finding& add(const char* id, const QString& path, const QString& message);
+
+    QString _root;
+    Checked& _out;
+    const std::function<void(const QString&)>& _progress;
+    Collected _collected;
+    Panel _panel;
+    Hearing _hearing{[this](HeardFile& file) { heard(file); }};
+    QSet<QString> _known; ///< Files that were read, or about which something was said.
+    int _checkedKeys = 0;
+};
+
+Finding& RootCheck::add(const char* id, const QString& path, const QString& message)
+{
+    Finding finding;
+    finding.kind = kindOf(id);
+    finding.file = path;
+    finding.message = message;
+    _out.findings.push_back(std::move(finding));
+    return _out.findings.back();
+}
+
+/// The path as the user named the root: some loaders make theirs absolute.
+QString RootCheck::shown(const QString& path) const
+{
+    const QString root = QFileInfo(_root).absoluteFilePath() + '/';
+    const QString clean = QDir::cleanPath(path);
+    return clean.startsWith(root) ? _root + '/' + clean.mid(root.size()) : clean;
+}
+
+void RootCheck::heard(HeardFile& file)
+{
+    file.path = shown(file.path);
+    if (_progress) _progress(file.path);
+    ++_out.files;
+    judgeFrame(file, _out.findings);
+    judgeStructure(file, nullptr, _out.findings);
+    judgeValues(file, _out.findings);
+    _collected.add(file);
+    if (file.wasRead || !file.refusals.empty()) _known.insert(file.path);
+}
+
+void RootCheck::load(const Folder& folder)
+{
+    const QString path = lcdcommon::pathOf(_root, folder);
+    _hearing.setCostOfFile(costOfFile(folder.catalogue));
+    const QString reason = lcdcommon::whyNoFolder(path);
+    if (!reason.isEmpty()) {
+        add("cannot-read", path, "cannot be read: " + reason).cost = "nothing of this catalogue is read";
+        return;
+    }
+    if (folder.catalogue != Catalogue::Devices) return _panel.read(folder, path);
+    const QStringList devices = lcdcommon::deviceFolders(_root);
+    for (const QString& device : devices) _panel.read(folder, device);
+    if (devices.isEmpty())
+        add("missing-file", path, "holds no device folder").cost = "no card and no connector is read";
+}
+
+/// A device needs the file that says what it is, and the one that says which cards it takes.
+void RootCheck::judgeDevices()
+{
+    using namespace LCD::MainConfig;
+    const std::pair<Field, const char*> needed[] = {{fieldOf<s_DeviceFeature>(&s_DeviceFeature::moduleId), "feature"},
+                                                    {fieldOf<s_SlotAttr>(&s_SlotAttr::pluginDirection), "slot"}};
+    for (const QString& device : lcdcommon::deviceFolders(_root))
+        for (const auto& [field, name] : needed) {
+            const std::vector<Value>& values = _collected.all(field);
+            const bool there = std::any_of(values.begin(), values.end(), [&](const Value& value) {
+                return QFileInfo(_collected.fileOf(value).path).path() == device;
+            });
+            if (!there) add("missing-file", device, QString("has no %1 file").arg(name));
+        }
+}
+
+/// Why nobody reads a file of a catalogue.
+QString whyUnread(const Folder& folder, const QFileInfo& file, const QString& place)
+{
+    const bool inPlace = file.path() == place;
+    bool isNumber = false;
+    file.baseName().toULongLong(&isNumber);
+    switch (folder.catalogue) {
+    case Catalogue::Devices:
+        return QFileInfo(file.path()).path() == place ? "its name tells no kind of file"
+                                                      : "files are read in the folders of devices alone";
+    case Catalogue::Cards:
+        return isNumber ? "no slot takes card " + file.baseName() : "a card file is named for its model's number";
+    case Catalogue::Connectors:
+        if (!inPlace) return "subfolders are not looked into";
+        return isNumber ? "no card has a connector of type " + file.baseName()
+                        : "a connector file is named for its type's number";
+    case Catalogue::KeyChecks:
+        return inPlace ? "its name tells no key list" : "subfolders are not looked into";
+    default:
+        return QString("only %1 is read here").arg(quoted(folder.file));
+    }
+}
+
+void RootCheck::judgeUnread()
+{
+    for (const Folder& folder : lcdcommon::folders()) {
+        if (folder.catalogue == Catalogue::Settings) continue;
+        const QString place = lcdcommon::pathOf(_root, folder);
+        QDirIterator entries(place, {"*.xml"}, QDir::Files | QDir::System, QDirIterator::Subdirectories);
+        QStringList paths;
+        while (entries.hasNext()) paths.append(QDir::cleanPath(entries.next()));
+        paths.sort();
+        for (const QString& path : paths)
+            if (!_known.contains(path))
+                add("unread-file", path, "nobody reads this file: " + whyUnread(folder, QFileInfo(path), place));
+    }
+}
+
+void RootCheck::run()
+{
+    if (const QString reason = lcdcommon::whyNoFolder(_root); !reason.isEmpty()) {
+        add("cannot-read", _root, "cannot be read: " + reason);
+        return;
+    }
+    {
+        const Silence silence;
+        const reading::Listening listening(_hearing);
+        for (const Folder& folder : lcdcommon::folders()) load(folder);
+        _hearing.finish();
+    }
+    judgeDevices();
+    judgeUnread();
+    judgeIdentities(_collected, _out.findings);
+    judgeReferences(_collected, _out.findings);
+    judgeLayouts(_collected, _out.findings);
+    judgeResolutions(_collected, _panel.loaded(_root), _out.findings);
+}
+
+} // namespace
+
+Checked check(const Request& request, const std::function<void(const QString& file)>& progress)
+{
+    Checked checked;
+    for (const QString& root : request.roots) RootCheck(QDir::cleanPath(root), checked, progress).run();
+    checked.line = [last = QString(), source = Source()](const QString& file, int line) mutable {
+        if (file != last) {
+            source = Source::readFile(file).value_or(Source());
+            last = file;
+        }
+        return source.line(line);
+    };
+    return checked;
+}
+
+} // namespace lcdcheck
