@@ -309,7 +309,7 @@ void Hearing::asked(const QDomElement& element, const reading::Asked& asked)
     const auto known = std::find_if(heard->attributes.begin(), heard->attributes.end(),
                                     [&](const HeardAttribute& attribute) { return attribute.name == asked.name; });
     if (known != heard->attributes.end() && asked.field.address == nullptr) return;
-    HeardAttribute attribute{asked.name, asked.kind, asked.readDefault, asked.present, asked.good};
+    HeardAttribute attribute{asked.name, asked.kind, asked.readDefault, asked.present, asked.good, {}, {}, {}};
     attribute.field = fieldAt(asked);
     if (asked.record.address != nullptr && *asked.record.type != *asked.field.type) {
         attribute.outer = around(asked.record);
