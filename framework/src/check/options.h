@@ -24,6 +24,7 @@ struct Options {
     Request request;
     const Format* format = &formats().front();
     Selection selection;
+    QString html;                                       ///< File for the page of the root; empty: none is written.
     std::optional<Severity> failOn = Severity::Warning; ///< Nothing: never.
 };
 

@@ -83,8 +83,8 @@ void writeHead(Sheet& sheet, const PageOptions& options)
 void writeSearch(Sheet& sheet)
 {
     Markup& out = sheet.out;
-    const Element search(out, "div", {{"class", "search"}, {"role", "search"}});
-    out.leaf("label", {{"for", "search"}},
+    const Element search(out, "div", {{"class", "search"}, {"role", "search"}, {"aria-labelledby", "search-title"}});
+    out.leaf("label", {{"for", "search"}, {"id", "search-title"}},
              Words{"Find a card, type, menu key or file", "查找板卡、类型、菜单键或文件"});
     out.empty("input", {{"type", "search"}, {"id", "search"}, {"autocomplete", "off"}, {"spellcheck", "false"}});
     out.leaf("ul", {{"id", "results"}, {"class", "results"}, {"hidden", ""}}, QString());

@@ -291,8 +291,10 @@ Words groupWords(const Lcd::s_Subcard& card)
     for (const Lcd::s_SubcardConnectorGroup& group : card.capacity.connectorGroups) {
         std::vector<int> positions;
         for (const Lcd::s_SubcardConnector& connector : group.connectors) positions.push_back(connector.position);
-        english.append(QString("group %1: %2 of %3").arg(group.value).arg(group.selectNum).arg(numbers(positions)));
-        chinese.append(QString("组 %1：%3 中的 %2 个").arg(group.value).arg(group.selectNum).arg(numbers(positions)));
+        english.append(
+            QString("group %1: %2 of positions %3").arg(group.value).arg(group.selectNum).arg(numbers(positions)));
+        chinese.append(
+            QString("组 %1：位置 %3 中的 %2 个").arg(group.value).arg(group.selectNum).arg(numbers(positions)));
     }
     return {english.join("; "), chinese.join("；")};
 }

@@ -6,11 +6,12 @@
 namespace lcdcheck {
 namespace {
 
-constexpr double SLOT_WIDTH = 372;
+constexpr double SLOT_WIDTH = 396;
 constexpr double SLOT_HEIGHT = 58;
 constexpr double GAP = 8;
 constexpr double EAR = 26; ///< The flanges by which a chassis is screwed into its rack.
-constexpr double CHIP_WIDTH = 50;
+constexpr double CHIP_WIDTH = 42;
+constexpr double CHIP_STEP = 46;
 constexpr double CHIP_HEIGHT = 20;
 constexpr int CHIPS_IN_ROW = 5;
 constexpr int CHIPS = 2 * CHIPS_IN_ROW;
@@ -21,9 +22,8 @@ void drawChip(Sheet& sheet, double x, double y, std::uint64_t model)
     const PageCard* card = sheet.model.card(model);
     const auto plate = [&sheet, x, y, model](const char* kind) {
         sheet.out.empty(
-            "rect",
-            {{"class", kind}, {"x", x}, {"y", y}, {"width", CHIP_WIDTH - 5}, {"height", CHIP_HEIGHT}, {"rx", 3}});
-        sheet.out.leaf("text", {{"x", x + (CHIP_WIDTH - 5) / 2}, {"y", y + 14}}, QString::number(qulonglong(model)));
+            "rect", {{"class", kind}, {"x", x}, {"y", y}, {"width", CHIP_WIDTH}, {"height", CHIP_HEIGHT}, {"rx", 3}});
+        sheet.out.leaf("text", {{"x", x + CHIP_WIDTH / 2}, {"y", y + 14}}, QString::number(qulonglong(model)));
     };
     if (card == nullptr) {
         const Element missing(sheet.out, "g", {{"class", "bad"}});
@@ -57,7 +57,7 @@ void drawSlot(Sheet& sheet, const PageSlot& slot, double x, double y)
     const bool twoRows = cards.size() > CHIPS_IN_ROW;
     const double top = twoRows ? 7 : (SLOT_HEIGHT - CHIP_HEIGHT) / 2;
     for (std::size_t at = 0; at < cards.size() && at < CHIPS; ++at) {
-        const double left = 134 + double(at % CHIPS_IN_ROW) * (CHIP_WIDTH - 6);
+        const double left = 150 + double(at % CHIPS_IN_ROW) * CHIP_STEP;
         drawChip(sheet, left, top + double(at / CHIPS_IN_ROW) * (CHIP_HEIGHT + 4), cards[at].moduleId);
     }
     if (cards.size() > CHIPS)

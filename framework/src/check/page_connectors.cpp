@@ -116,8 +116,8 @@ void writeFacts(Sheet& sheet, const PageConnectorType& type)
     facts.add({"EDID", "EDID"}, edid->support != 0 && edid->editable > 0 ? editable : yesNo(edid->support != 0));
     const auto hpd = catalogue.findHPDInfo(type.type);
     if (hpd != nullptr && hpd->support != 0)
-        facts.add({"Hot-plug pulse", "热插拔脉冲"},
-                  QString("%1 (%2, ± %3)").arg(hpd->value).arg(range(hpd->min, hpd->max)).arg(hpd->step));
+        facts.add({"Hot-plug pulse (limits / step)", "热插拔脉冲（范围/步进）"},
+                  QString("%1 (%2 / %3)").arg(hpd->value).arg(range(hpd->min, hpd->max)).arg(hpd->step));
     else
         facts.add({"Hot-plug pulse", "热插拔脉冲"}, yesNo(false));
     const auto dynamicRange = catalogue.findDynamicRangeInfo(type.type);
@@ -126,21 +126,26 @@ void writeFacts(Sheet& sheet, const PageConnectorType& type)
     facts.add({"Player", "播放器"}, yesNo(player != nullptr && player->support != 0));
 }
 
-/// What each interface type offers in its highest mode, leading to the rows of the matrix.
+std::set<PageResolution> offeredBy(Sheet& sheet, const PageConnectorType& type, int interface)
+{
+    std::set<PageResolution> offered;
+    for (const auto& resolution :
+         sheet.model.loaded().connectors->findConnectorResolutions(CAPACITY_MODES - 1, type.type, interface))
+        offered.insert({resolution.width, resolution.height, resolution.interlaced == 1});
+    return offered;
+}
+
+/// What the interface types offer in the highest mode, leading to the rows of the matrix; those that offer the same
+/// share a line.
 void writeOffers(Sheet& sheet, const PageConnectorType& type)
 {
-    for (const int interface : type.interfaces) {
-        std::set<PageResolution> offered;
-        for (const auto& resolution :
-             sheet.model.loaded().connectors->findConnectorResolutions(CAPACITY_MODES - 1, type.type, interface))
-            offered.insert({resolution.width, resolution.height, resolution.interlaced == 1});
+    std::map<std::set<PageResolution>, int> offers;
+    for (const int interface : type.interfaces) offers[offeredBy(sheet, type, interface)] |= interface;
+    for (const auto& [offered, interfaces] : offers) {
+        const Words names = interfaceWords(interfaces);
         const Element line(sheet.out, "p", {{"class", "offers"}});
-        {
-            const Element title(sheet.out, "strong");
-            sheet.out.words({"Offers as ", "作为"});
-            sheet.out.words(interfaceWords(interface));
-        }
-        sheet.out.text(QStringLiteral(": "));
+        sheet.out.leaf("strong", {}, Words{"Offers as " + names.english + ':', "作为" + names.chinese + "提供："});
+        sheet.out.text(QStringLiteral(" "));
         if (offered.empty()) sheet.out.words({"nothing", "无"});
         listOf(sheet, offered,
                [&sheet](const PageResolution& resolution) { link(sheet, resolution.anchor(), resolution.text()); });

@@ -50,12 +50,13 @@ void writeWindowTable(Sheet& sheet, const Lcd::s_LayerWindow& window)
     }
 }
 
-/// A border at its first and at its greatest thickness, ten times as large as on a screen.
+/// A border at its first and at its greatest thickness, which takes a fifth of the drawing's height.
 void drawBorder(Sheet& sheet, const Lcd::s_Border& border, int number)
 {
     constexpr double WIDTH = 160;
     constexpr double HEIGHT = 100;
-    const auto inside = [](int thickness, double side) { return std::clamp(double(thickness), 0.0, side / 2 - 2); };
+    const double scale = HEIGHT / 5 / std::max({1, border.size.vWidth.max, border.size.hWidth.max});
+    const auto inside = [scale](int thickness, double side) { return std::clamp(thickness * scale, 0.0, side / 2); };
     const auto ring = [&](const char* kind, int across, int down) {
         const double x = inside(across, WIDTH);
         const double y = inside(down, HEIGHT);
@@ -248,7 +249,7 @@ void writeMosaic(Sheet& sheet)
             sheet.out.leaf("h3", {},
                            Words{"Sub-source type %1, starts with template %2", "子源类型 %1，默认模板 %2"}.with(
                                type.value, type.defaultTemplate));
-            const Element figures(sheet.out, "div", {{"class", "figures"}});
+            const Element figures(sheet.out, "div", {{"class", "figures mosaic"}});
             for (const Lcd::s_MosaicTemplate& mosaic : type.mosaicTemplates) writeMosaicTemplate(sheet, device, mosaic);
             any = true;
         }

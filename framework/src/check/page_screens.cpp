@@ -7,8 +7,8 @@
 namespace lcdcheck {
 namespace {
 
-constexpr double BOX_WIDTH = 560;
-constexpr double BOX_HEIGHT = 360;
+constexpr double BOX_WIDTH = 432;
+constexpr double BOX_HEIGHT = 280;
 
 lcdcommon::RectangleNote noteOf(const Sheet& sheet, const PageDevice& device, const Lcd::s_Cell& cell)
 {

@@ -47,6 +47,8 @@ addEventListener("beforeprint", () => {
 addEventListener("afterprint", () => { for (const fold of folded) fold.open = false; });
 
 // ---- Search
+const kinds = { slot: "槽位", card: "板卡", type: "类型", resolution: "分辨率", screen: "屏幕", layer: "图层", menu: "菜单",
+  key: "按键", file: "文件" };
 let entries = null;
 function nameOf(element) {
   const title = element.querySelector("h3, th, code");
@@ -71,7 +73,8 @@ function find() {
     const link = document.createElement("a");
     const where = document.createElement("span");
     where.className = "where";
-    where.textContent = hit.element.dataset.find.split(" ", 1)[0];
+    const kind = hit.element.dataset.find.split(" ", 1)[0];
+    where.textContent = byLanguage(kind, kinds[kind]);
     link.href = "#" + hit.element.id;
     link.append(where, nameOf(hit.element));
     const item = document.createElement("li");

@@ -45,7 +45,8 @@ small { color: var(--soft); font-size: .86em; }
 .side { padding: 1rem; background: var(--card); border-bottom: 1px solid var(--line); }
 .side .root { color: var(--soft); font-size: .82rem; overflow-wrap: anywhere; margin: .1rem 0 .75rem; }
 .side label { display: block; font-size: .82rem; color: var(--soft); margin-bottom: .25rem; }
-.side input { width: 100%; font: inherit; padding: .45rem .6rem; color: inherit; background: var(--paper);
+.side input { width: 100%; font: inherit; padding: .45rem .6rem .45rem 2rem; color: inherit;
+  background: var(--paper) no-repeat .6rem 50% / 1rem url("data:image/svg+xml,%3Csvg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 16 16'%3E%3Cpath d='M7 2a5 5 0 1 1 0 10a5 5 0 1 1 0-10m3.6 8.6l3.9 3.9' fill='none' stroke='%23808890' stroke-width='1.6'/%3E%3C/svg%3E");
   border: 1px solid var(--soft); border-radius: 6px; }
 .side nav ul { list-style: none; padding: 0; margin: .75rem -.25rem 0; display: flex; gap: .25rem; overflow-x: auto; }
 .side nav a { display: flex; justify-content: space-between; gap: .5rem; padding: .3rem .6rem; border-radius: 6px;
@@ -55,7 +56,7 @@ small { color: var(--soft); font-size: .86em; }
 .side nav .count { color: var(--soft); font-weight: 400; }
 .language { display: flex; gap: .4rem; margin-top: .75rem; }
 button { font: inherit; font-size: .85rem; padding: .25rem .7rem; color: inherit; background: none;
-  border: 1px solid var(--line); border-radius: 6px; cursor: pointer; }
+  border: 1px solid var(--line); border-radius: 6px; cursor: pointer; white-space: nowrap; }
 button[aria-pressed=true] { border-color: var(--accent); color: var(--accent); background: var(--wash); }
 .search { position: relative; }
 .results { list-style: none; margin: .35rem 0 0; padding: .25rem; border: 1px solid var(--line); border-radius: 8px;
@@ -67,11 +68,11 @@ button[aria-pressed=true] { border-color: var(--accent); color: var(--accent); b
 .results .where { color: var(--soft); font-size: .8rem; margin-right: .5rem; }
 .status { font-size: .8rem; color: var(--soft); min-height: 1.3em; margin: .25rem 0 0; }
 
-main { padding: 1.25rem 1rem 4rem; max-width: 76rem; }
+main { padding: 1.25rem 1rem 4rem; max-width: 80rem; }
 section { margin-bottom: 3.5rem; }
 .lead { color: var(--soft); max-width: 48rem; margin-bottom: 1.25rem; }
 .nothing { color: var(--soft); font-style: italic; }
-.note { color: var(--soft); font-size: .85rem; max-width: 32rem; }
+.remark { color: var(--soft); font-size: .85rem; max-width: 32rem; }
 .good { color: var(--good); }
 .item, .device { background: var(--card); border: 1px solid var(--line); border-radius: 10px; margin: .75rem 0;
   padding: 0 1rem; content-visibility: auto; contain-intrinsic-size: auto 3.2rem; }
@@ -113,18 +114,19 @@ td.mode-2, td.mode-3 { background: var(--wash); }
 td.off { color: var(--soft); text-align: center; }
 td.count { color: var(--soft); font-size: .82rem; min-width: 12rem; }
 ul.plain { list-style: none; margin: 0; padding: 0; }
-.matrix { max-height: 44rem; overflow: auto; border: 1px solid var(--line); border-radius: 10px;
+.matrix { max-height: 85vh; overflow: auto; border: 1px solid var(--line); border-radius: 10px;
   background: var(--card); }
 .matrix table { border-collapse: separate; border-spacing: 0; }
 .matrix caption { padding: .6rem .8rem; position: sticky; left: 0; }
-.matrix th, .matrix td { padding: .28rem .6rem; }
+.matrix th, .matrix td { padding: .28rem .5rem; }
 .matrix thead { position: sticky; top: 0; background: var(--card); z-index: 2; }
 .matrix tbody th, .matrix tfoot th, .matrix thead tr:first-child th:first-child { position: sticky; left: 0;
   background: var(--card); z-index: 1; }
-.matrix td, .matrix thead th + th, .matrix thead tr + tr th { min-width: 4.6rem; }
+.matrix td { white-space: nowrap; }
+.matrix tfoot td { white-space: normal; }
 .matrix .first { border-left: 1px solid var(--line); }
-.matrix b, .matrix s, .matrix i { display: inline-block; width: 1.25rem; text-align: center; border-radius: 3px;
-  margin-right: 2px; font-weight: 600; font-size: .8rem; font-style: normal; }
+.matrix b, .matrix s, .matrix i { display: inline-block; width: 1.1rem; text-align: center; border-radius: 3px;
+  margin-right: 1px; font-weight: 600; font-size: .8rem; font-style: normal; }
 .matrix b { background: var(--wash); color: var(--accent); }
 .matrix s { color: var(--bad); text-decoration-thickness: 2px; font-weight: 400; }
 .matrix tfoot td { font-size: .78rem; color: var(--soft); }
@@ -135,7 +137,8 @@ figcaption { font-size: .85rem; color: var(--soft); margin-bottom: .4rem; }
 figure .scroll { margin: 0; padding: 2px; }
 .figures { display: flex; flex-wrap: wrap; gap: .5rem 2.25rem; align-items: flex-start; }
 .figures > * { max-width: 100%; min-width: 0; }
-.template { max-width: 36rem; }
+.template { width: 27.5rem; }
+.mosaic .template { width: 22rem; }
 .more > summary { cursor: pointer; color: var(--soft); font-size: .85rem; margin-bottom: .5rem; }
 svg { display: block; font-size: 12px; }
 svg text { fill: var(--ink); }
@@ -230,7 +233,8 @@ footer { color: var(--soft); font-size: .82rem; }
   .language { margin: 0; }
   .side nav ul { margin-top: .4rem; }
   .status { position: absolute; left: -99rem; }
-  html { scroll-padding-top: 9rem; }
+  html { scroll-padding-top: 9.5rem; }
+  h1 { overflow: hidden; text-overflow: ellipsis; white-space: nowrap; }
   :target { scroll-margin-top: 0; }
   h2 { font-size: 1.35rem; }
   .facts { grid-template-columns: repeat(auto-fill, minmax(8.5rem, 1fr)); }

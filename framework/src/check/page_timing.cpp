@@ -114,8 +114,8 @@ void writeTimingFrame(Sheet& sheet, const TimingDirection& horizontal, const Tim
         sheet.out.leaf("text", {{"x", across.active * scale / 2}, {"y", down.active * scale / 2 + 5}},
                        lcdcommon::sizeText(across.active, down.active));
     }
-    sheet.out.leaf("p", {{"class", "note"}}, sentence({"Pixels across", "水平像素"}, across));
-    sheet.out.leaf("p", {{"class", "note"}}, sentence({"Lines down", "垂直行数"}, down));
+    sheet.out.leaf("p", {{"class", "remark"}}, sentence({"Pixels across", "水平像素"}, across));
+    sheet.out.leaf("p", {{"class", "remark"}}, sentence({"Lines down", "垂直行数"}, down));
 }
 
 } // namespace lcdcheck
