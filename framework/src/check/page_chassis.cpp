@@ -57,8 +57,9 @@ void drawSlot(Sheet& sheet, const PageSlot& slot, double x, double y)
     const bool twoRows = cards.size() > CHIPS_IN_ROW;
     const double top = twoRows ? 7 : (SLOT_HEIGHT - CHIP_HEIGHT) / 2;
     for (std::size_t at = 0; at < cards.size() && at < CHIPS; ++at) {
+        const std::size_t line = at / CHIPS_IN_ROW;
         const double left = 150 + double(at % CHIPS_IN_ROW) * CHIP_STEP;
-        drawChip(sheet, left, top + double(at / CHIPS_IN_ROW) * (CHIP_HEIGHT + 4), cards[at].moduleId);
+        drawChip(sheet, left, top + double(line) * (CHIP_HEIGHT + 4), cards[at].moduleId);
     }
     if (cards.size() > CHIPS)
         sheet.out.leaf("text", {{"class", "faint end"}, {"x", SLOT_WIDTH - 4}, {"y", SLOT_HEIGHT - 3}},
@@ -82,8 +83,8 @@ void drawSide(Sheet& sheet, const std::vector<const PageSlot*>& taken, const Wor
         sheet.out.leaf("text", {{"class", "faint middle"}, {"x", width / 2}, {"y", height / 2 + 5}},
                        Words{"no card slots on this side", "此面没有板卡槽位"});
     for (std::size_t at = 0; at < taken.size(); ++at) {
-        const auto column = double(int(at) / rows);
-        const auto row = double(int(at) % rows);
+        const int column = int(at) / rows;
+        const int row = int(at) % rows;
         drawSlot(sheet, *taken[at], EAR + GAP + column * (SLOT_WIDTH + GAP), GAP + row * (SLOT_HEIGHT + GAP));
     }
 }
@@ -107,13 +108,18 @@ void drawSides(Sheet& sheet, const PageDevice& device)
     }
 }
 
-/// How the connectors of a slot are counted over the whole chassis, as "1→5".
-QString countOf(const PageDevice& device, int slot)
+/// How the connectors of a slot are counted over the whole chassis, as "1→5"; red where no card has such a connector.
+void writeCounts(Sheet& sheet, const PageDevice& device, const PageSlot& slot)
 {
-    QStringList texts;
-    for (const Lcd::s_SilkOrder& order : device.device->silkOrders)
-        if (order.slot == slot) texts.append(QString("%1→%2").arg(order.connector).arg(order.order));
-    return texts.join("  ");
+    const Element cell(sheet.out, "td", {{"class", "count"}});
+    for (const Lcd::s_SilkOrder& order : device.device->silkOrders) {
+        if (order.slot != slot.slot->index) continue;
+        const bool there = sheet.model.hasConnector(slot, order.connector);
+        sheet.out.leaf("span", {{"class", there ? QString() : QString("missing")}},
+                       QString("%1→%2").arg(order.connector).arg(order.order));
+        sheet.out.text(QStringLiteral(" "));
+        if (!there) sheet.out.words({"(no such connector) ", "（没有此接口）"});
+    }
 }
 
 void writeCell(Sheet& sheet, const std::function<void()>& write)
@@ -149,7 +155,7 @@ void writeSlotRow(Sheet& sheet, const PageDevice& device, const PageSlot& slot)
                          QString(" · %1 %2").arg(group.value).arg(QString::fromStdString(group.groupName)));
         }
     });
-    out.leaf("td", {{"class", "count"}}, countOf(device, slot.slot->index));
+    writeCounts(sheet, device, slot);
 }
 
 void writeDeviceFacts(Sheet& sheet, const Lcd::s_Device& device)

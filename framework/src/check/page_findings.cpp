@@ -75,7 +75,7 @@ void writeFinding(Sheet& sheet, std::size_t at)
     {
         const Element line(out, "p", {{"class", "place"}});
         out.text(QString("%1:%2:%3 ").arg(path).arg(finding.place.line).arg(finding.place.column));
-        const QString subject = sheet.model.subjectOf(finding.file);
+        const QString subject = sheet.model.subjectOf(finding);
         if (subject != "findings") link(sheet, subject, {"show it", "查看"});
         if (!finding.cost.isEmpty()) out.leaf("span", {{"class", "cost"}}, " " + finding.cost);
     }

@@ -83,7 +83,7 @@ PageModel::PageModel(const Loaded& loaded, const Findings& findings) : _loaded(l
     addDevices();
     addCards();
     addTypes();
-    for (std::size_t at = 0; at < findings.size(); ++at) _findingsOf[subjectOf(findings[at].file)].push_back(at);
+    for (std::size_t at = 0; at < findings.size(); ++at) _findingsOf[subjectOf(findings[at])].push_back(at);
 }
 
 void PageModel::addDevices()
@@ -184,7 +184,7 @@ QString PageModel::subjectOf(const QString& file) const
     if (folder == "devices") {
         if (name.contains("screen")) return "screens";
         if (name.contains("layer")) return "layers";
-        return name.contains("feature") ? "mosaic" : "chassis";
+        return "chassis";
     }
     if (folder == "subcards") {
         const PageCard* found = card(name.toULongLong());
@@ -195,6 +195,12 @@ QString PageModel::subjectOf(const QString& file) const
         return found != nullptr ? found->anchor : "connectors";
     }
     return folder == "menu" ? "menu" : folder == "settings" ? "findings" : "keys";
+}
+
+QString PageModel::subjectOf(const Finding& finding) const
+{
+    // The feature file tells of the whole device; of its parts the page draws one.
+    return finding.element.contains("MosaicSource") ? QStringLiteral("mosaic") : subjectOf(finding.file);
 }
 
 std::vector<std::size_t> PageModel::findingsOf(const QString& anchor) const

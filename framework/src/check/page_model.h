@@ -88,6 +88,7 @@ public:
 
     /// The anchor of what a file tells of; of a section where it is no single thing.
     [[nodiscard]] QString subjectOf(const QString& file) const;
+    [[nodiscard]] QString subjectOf(const Finding& finding) const;
     /// The numbers of the findings about a thing, from 0.
     [[nodiscard]] std::vector<std::size_t> findingsOf(const QString& anchor) const;
     /// A path, relative to the root where it lies in it.

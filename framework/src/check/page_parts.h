@@ -98,6 +98,7 @@ QString numbers(const std::vector<int>& list);
 template <class List> QString enumValues(const List& list)
 {
     std::vector<int> values;
+    values.reserve(list.size());
     for (const auto& entry : list) values.push_back(entry.value);
     return numbers(values);
 }

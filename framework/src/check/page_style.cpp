@@ -233,6 +233,7 @@ footer { color: var(--soft); font-size: .82rem; }
   .language { margin: 0; }
   .side nav ul { margin-top: .4rem; }
   .status { position: absolute; left: -99rem; }
+  .matrix thead th { white-space: nowrap; }
   html { scroll-padding-top: 9.5rem; }
   h1 { overflow: hidden; text-overflow: ellipsis; white-space: nowrap; }
   :target { scroll-margin-top: 0; }

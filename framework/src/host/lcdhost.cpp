@@ -29,7 +29,7 @@ const std::vector<Command>& commands()
          "show what one connector of a card offers: resolutions, rates, timing",
          {"card", "position", "interface", "json"},
          runResolutions},
-        {"screens", "draw the layouts of the screens", {}, runScreens},
+        {"screens", "draw the layouts of the screens", {"svg"}, runScreens},
         {"menu", "show the menu tree", {}, runMenu},
         {"settings", "show the factory settings", {"user-settings"}, runSettings},
     };
@@ -67,6 +67,7 @@ void setUp(QCommandLineParser& parser)
         {"position", "resolutions: position of the connector on the card.", "number"},
         {"interface", "resolutions: interface types as a bit mask (default: the connector's own type).", "mask"},
         {"json", "resolutions: write JSON."},
+        {"svg", "screens: write a drawing to scale, one SVG document."},
         {"user-settings",
          "settings: show the user's settings too. This uses the file "
          "/userdata/log/lcd/ini/lcdsetting.ini, creates it if it is missing, and writes its defaults."},
@@ -118,6 +119,7 @@ void readOptions(const QCommandLineParser& parser, Request& request)
 {
     const bool asksCard = request.command->options.contains("card");
     request.options.json = parser.isSet("json");
+    request.options.svg = parser.isSet("svg");
     request.options.userSettings = parser.isSet("user-settings");
     request.options.interfaceMask = numberOf(parser, "interface", false, request);
     request.options.position = numberOf(parser, "position", asksCard, request).value_or(0);

@@ -14,6 +14,7 @@ struct Options {
     int position = 0;
     std::optional<int> interfaceMask; ///< Without it, the connector's own interface type.
     bool json = false;
+    bool svg = false;
     bool userSettings = false;
 };
 
@@ -28,6 +29,8 @@ bool runLoad(Session& session, const Options& options, Console& console);
 bool runCards(Session& session, const Options& options, Console& console);
 bool runResolutions(Session& session, const Options& options, Console& console);
 bool runScreens(Session& session, const Options& options, Console& console);
+/// The layouts of all screens below one another, as one SVG document.
+QByteArray screensDrawing(const Session& session);
 bool runMenu(Session& session, const Options& options, Console& console);
 bool runSettings(Session& session, const Options& options, Console& console);
 

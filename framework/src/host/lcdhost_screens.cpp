@@ -106,9 +106,13 @@ void tellTemplate(const Session& session, const Lcd::s_Templete& screenTemplate,
 
 } // namespace
 
-bool runScreens(Session& session, const Options& /*options*/, Console& console)
+bool runScreens(Session& session, const Options& options, Console& console)
 {
     session.load(Catalogue::Devices);
+    if (options.svg) {
+        console.out.write(screensDrawing(session));
+        return true;
+    }
     const auto& devices = session.devices().DeviceConfigs();
     bool any = false;
     for (const Lcd::s_Device& device : devices) {

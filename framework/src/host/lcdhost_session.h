@@ -79,6 +79,7 @@ public:
     [[nodiscard]] QString cardName(const Lcd::s_DCSSubcard& cards, std::uint64_t model) const;
 
     [[nodiscard]] const QString& root() const { return _root; }
+    [[nodiscard]] bool isEnglish() const { return _english; }
 
 private:
     template <class Interface> [[nodiscard]] Interface& get(const char* id) const
