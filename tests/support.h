@@ -30,7 +30,7 @@ private:
     QTemporaryDir _dir;
 };
 
-/// Collects every log line, whatever its level, while it lives.
+/// Collects every log line while it lives; one that is no warning begins with its level.
 class LogLines {
 public:
     LogLines() : _previous(qInstallMessageHandler(&LogLines::take)) { lines().clear(); }
@@ -47,9 +47,9 @@ private:
         static QStringList all;
         return all;
     }
-    static void take(QtMsgType /*type*/, const QMessageLogContext& /*where*/, const QString& line)
+    static void take(QtMsgType type, const QMessageLogContext& /*where*/, const QString& line)
     {
-        lines().append(line);
+        lines().append((type == QtWarningMsg ? "" : type == QtDebugMsg ? "debug: " : "other: ") + line);
     }
 
     QtMessageHandler _previous;

@@ -1,11 +1,6 @@
 // The load of the card catalogue: which files are read, and what each fault costs.
 #include "cards.h"
 
-#include <sys/wait.h>
-
-#include <csignal>
-#include <optional>
-
 namespace {
 
 /// A card without a fault but for one piece that is replaced.
@@ -28,7 +23,6 @@ private Q_SLOTS:
     void choosesFiles();
     void chargesEachFault_data();
     void chargesEachFault();
-    void endsTheProcessWithoutAHost();
 };
 
 void TestCards::choosesFiles()
@@ -118,25 +112,6 @@ void TestCards::chargesEachFault()
     QTEST(fixture.models(), "models");
     QTEST(log.taken(), "log");
     QVERIFY(!error.isEmpty() || QDir(directory).exists());
-}
-
-void TestCards::endsTheProcessWithoutAHost()
-{
-    for (const bool hasHost : {false, true}) {
-        const pid_t child = fork();
-        if (child == 0) {
-            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-            std::signal(SIGABRT, SIG_DFL);
-            std::optional<StandInHost> servesNothing;
-            if (hasHost) servesNothing.emplace();
-            QString error;
-            LCD::MainConfigImpl::SubcardConfig().readConfig({}, error);
-            _exit(0);
-        }
-        int status = 0;
-        QCOMPARE(waitpid(child, &status, 0), child);
-        QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT);
-    }
 }
 
 QTEST_GUILESS_MAIN(TestCards)

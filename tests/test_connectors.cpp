@@ -141,6 +141,8 @@ private Q_SLOTS:
     void offersResolutions_data();
     void offersResolutions();
     void looksBeyondTheFirstConnector();
+    void takesAGroupOfTheFirstConnector_data();
+    void takesAGroupOfTheFirstConnector();
     void answersFromTheExample();
 };
 
@@ -353,6 +355,34 @@ void TestConnectors::looksBeyondTheFirstConnector()
     QTest::ignoreMessage(QtWarningMsg, "not find capacityMode: 1");
     known.findConnectorStandardResolution(1, 1, 2, disables);
     QCOMPARE(listed(disables), QString("2x2"));
+}
+
+void TestConnectors::takesAGroupOfTheFirstConnector_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QVector<int>>("supports");
+    QTest::newRow("no hit") << 3 << QVector<int>(5, -1);
+    QTest::newRow("one hit") << 2 << QVector<int>{31, 32, 33, 34, 35};
+    QTest::newRow("several hits") << 1 << QVector<int>{11, 12, 13, 14, 15};
+}
+
+void TestConnectors::takesAGroupOfTheFirstConnector()
+{
+    QFETCH(int, type);
+    const auto marked = [](int ofType, int mark) {
+        s_ConnectorCfg made = connector(ofType, 1, {});
+        for (int* const support : {&made.hdcp.support, &made.player.support, &made.dynamicRange.support,
+                                   &made.colorDepths.support, &made.colorSpaces.support})
+            *support = ++mark;
+        return made;
+    };
+    ConnectorConfig known;
+    Test::of(known).connectors = {{{marked(1, 10), marked(1, 20)}}, {{marked(2, 30), marked(1, 40)}}};
+    const auto support = [](const auto& group) { return group ? group->support : -1; };
+    QTEST((QVector<int>{support(known.findHDCPInfo(type)), support(known.findPlayerInfo(type)),
+                        support(known.findDynamicRangeInfo(type)), support(known.findColorDepthsInfo(type)),
+                        support(known.findColorSpacesInfo(type))}),
+          "supports");
 }
 
 void TestConnectors::answersFromTheExample()

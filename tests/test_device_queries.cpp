@@ -152,6 +152,13 @@ void TestDeviceQueries::slotsAndTheirCards()
         QVERIFY(config.findSlotConnectors(id, at, model, found));
         QCOMPARE(int(found.size()), 1 + n);
     }
+    // A copy in other hands moves nothing: what was handed out before the query still stands behind it.
+    const s_Device& first = config.DeviceConfigs().first();
+    {
+        const QList<s_Device> copy = config.DeviceConfigs();
+        QVERIFY(config.findSlotConnectors(1, 3, 81, found));
+    }
+    QVERIFY(&first == &config.DeviceConfigs().first());
     for (const auto slotClass : classes) {
         QCOMPARE(config.findSubcardModelId(3), (devices(config)[0].slots.*slotClass).slots[2].subcards[0].moduleId);
         (devices(config)[0].slots.*slotClass).slots.clear();

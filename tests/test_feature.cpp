@@ -91,6 +91,7 @@ private Q_SLOTS:
     void leastFileLoads();
     void refusesAnotherFrame();
     void aNewRecordHasItsDefaults();
+    void mosaicListsGoOnToTheirEnd();
     void partsCanBeReadAlone();
     void exampleLoads();
 };
@@ -244,6 +245,28 @@ void TestFeature::aNewRecordHasItsDefaults()
     QCOMPARE(QList<int>({record.warnCapacity, record.closeCapacity, record.maxCount, record.timeDuration,
                          record.defaultTimeDuration, record.timeDurationMin, record.timeDurationMax}),
              QList<int>({300, 10, 2, 1, 40, 2, 1440}));
+    const s_TallyBusinessEnum business;
+    const s_Tally::s_SendInterval interval;
+    QCOMPARE(
+        QList<int>({feature.preset.min, feature.preset.max, s_Network().index, business.value, business.defaultValue,
+                    s_Tally::s_Value().value, interval.defaultValue, interval.step, interval.min, interval.max,
+                    s_PushStreamSetting::s_EncodeQuality().value, s_PushStreamSetting::s_StreamBlock().value}),
+        QVector<int>(12, 0).toList());
+}
+
+/// Every list of the mosaic sources has a second entry here.
+void TestFeature::mosaicListsGoOnToTheirEnd()
+{
+    const QDomDocument file = bareFile();
+    for (const char* const entry : {"MosaicTemplates/Kind/Template/Cell", "MosaicTemplates/Kind/Template",
+                                    "MosaicTemplates/Kind", "CapacityCalculate/Level"}) {
+        QDomNode first = find(file, QString("MosaicSource/") + entry);
+        first.parentNode().insertAfter(first.cloneNode(), first);
+    }
+    const s_MOSAICSource mosaic = load(file.toString()).feature.mosaicSource;
+    QVERIFY(mosaic.capacityCalculate.capacities.size() == 2 && mosaic.subSourceTypes.size() == 2);
+    const auto& templates = mosaic.subSourceTypes[1].mosaicTemplates;
+    QVERIFY(templates.size() == 2 && templates[1].rectangles.size() == 2);
 }
 
 void TestFeature::partsCanBeReadAlone()

@@ -8,6 +8,9 @@
 #include <lcdmainconfig/common.h>
 
 #include <QBuffer>
+#include <QRandomGenerator>
+
+#include <sys/stat.h>
 
 using namespace LCD::MainConfig;
 using namespace LCD::MainConfigImpl::reading;
@@ -54,12 +57,15 @@ private Q_SLOTS:
     void aGapCostsItsScope();
     void convertsText_data();
     void convertsText();
+    void convertsAsQtDoes();
     void opensADocument_data();
     void opensADocument();
     void opensNoFile();
     void parsesAsTheDomDoes_data();
     void parsesAsTheDomDoes();
-    void boundsTheNesting();
+    void boundsTheCost_data();
+    void boundsTheCost();
+    void boundsTheSize();
 };
 
 void TestReading::anAbsenceHasItsCost_data()
@@ -163,6 +169,29 @@ void TestReading::convertsText()
     QTEST(numbers.join(' '), "numbers");
 }
 
+void TestReading::convertsAsQtDoes()
+{
+    QRandomGenerator random(15);
+    const QString characters = QStringLiteral("0123456789012345678901234567890123456789+- .e\t\u0663\uFF11");
+    for (int i = 0; i < 50000; ++i) {
+        QString text;
+        for (int length = random.bounded(12); length > 0; --length)
+            text += characters.at(random.bounded(i % 2 == 0 ? 40 : characters.size()));
+        const auto same = [&text](const auto& wanted, const auto& convert) {
+            bool wantedGood = false;
+            const auto number = wanted(&wantedGood);
+            auto converted = number;
+            return convert(text, converted) == wantedGood && converted == number;
+        };
+        QVERIFY2(same([&](bool* good) { return text.toInt(good); }, Plain{}), qPrintable(text));
+        QVERIFY2(same([&](bool* good) { return std::uint64_t{text.toULongLong(good)}; }, Plain{}), qPrintable(text));
+        QVERIFY2(same([&](bool* good) { return static_cast<std::uint64_t>(text.toLongLong(good)); }, Signed64{}),
+                 qPrintable(text));
+        QVERIFY2(same([&](bool* good) { return text.toFloat(good); }, Plain{}), qPrintable(text));
+        QVERIFY2(same([&](bool* good) { return text.toDouble(good); }, Plain{}), qPrintable(text));
+    }
+}
+
 void TestReading::opensADocument_data()
 {
     QTest::addColumn<QString>("xml");
@@ -197,6 +226,17 @@ void TestReading::opensNoFile()
     QCOMPARE(error, QString("Invalid file path!\n"));
     QVERIFY(!openDocument("/nowhere/%1.xml", DEVICE_FRAME, Report{error}, document));
     QCOMPARE(error, QString("Fail to open file [/nowhere/%1.xml]!"));
+
+    // Nothing but a regular file is, and nothing else is waited for.
+    const Folder folder;
+    const QString pipe = folder.path("pipe.xml");
+    const QString link = folder.path("link.xml");
+    QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+    QVERIFY(QFile::link(pipe, link));
+    for (const QString& path : {pipe, link, folder.path(), QString("/dev/zero")}) {
+        QVERIFY(!openDocument(path, DEVICE_FRAME, Report{error}, document));
+        QCOMPARE(error, "Fail to open file [" + path + "]!");
+    }
 }
 
 void TestReading::parsesAsTheDomDoes_data()
@@ -206,6 +246,8 @@ void TestReading::parsesAsTheDomDoes_data()
     QTest::newRow("everything else") << QByteArray("<?xml version='1.0'?><!DOCTYPE a [<!ENTITY e 'text'>]>\n"
                                                    "<a b='&e;'> <!-- c --> <?p q?>&e;<![CDATA[<d>]]> &lt; </a>");
     QTest::newRow("UTF-16") << QByteArray("\xff\xfe<\0a\0/\0>\0", 10);
+    QTest::newRow("entity that nobody declared") << QByteArray("<a b='1 &x; 2'>&x;t<c b='&x;'/></a>");
+    QTest::newRow("entities without end") << QByteArray("<!DOCTYPE a [<!ENTITY a '&a;&a;'>]><a>&a;</a>");
     QTest::newRow("mismatch") << QByteArray("<a>\n  <b></a>");
     QTest::newRow("unbound prefix") << QByteArray("<a:b/>");
     QTest::newRow("two roots") << QByteArray("<a/><b/>");
@@ -227,13 +269,69 @@ void TestReading::parsesAsTheDomDoes()
     QCOMPARE(document.documentElement().lineNumber(), expected.documentElement().lineNumber());
 }
 
-void TestReading::boundsTheNesting()
+void TestReading::boundsTheCost_data()
 {
+    QTest::addColumn<QString>("within");
+    QTest::addColumn<QString>("beyond");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char* name, const char* message, int bound, const auto& documentOf) {
+        QTest::newRow(name) << documentOf(bound) << documentOf(bound + 1) << message;
+    };
+    const auto declared = [](const QString& type, const QString& content = {}) {
+        return QString("<!DOCTYPE DCS [%1]><DCS>%2</DCS>").arg(type, content);
+    };
+    const auto numbered = [](const QString& text, int count) {
+        QString all;
+        for (int number = 1; number <= count; ++number) all += text.arg(number);
+        return all;
+    };
+    const QString thousand = QString("<!ENTITY e '%1'>").arg(QString(999, 'x'));
+    const QString open = QString("<!ELEMENT a %1b%2>");
+    // clang-format off
+    row("nesting", "elements are nested deeper than 5000 levels", DEEPEST_NESTING - 1,
+        [](int depth) { return QString("<DCS>%1</DCS>").arg(nested(depth)); });
+    row("attributes", "an element has more than 1000 attributes", MOST_ATTRIBUTES,
+        [&](int count) { return QString("<DCS %1/>").arg(numbered("a%1='' ", count)); });
+    row("prefixes", "the document has more than 16 namespace prefixes", MOST_PREFIXES,
+        [&](int count) { return QString("<DCS %1/>").arg(numbered("xmlns:a%1='u' ", count)); });
+    row("declarations", "the document type has more than 500 declarations", MOST_DECLARATIONS,
+        [&](int count) { return declared(numbered("<!NOTATION n%1 SYSTEM ''>", count)); });
+    row("declared text", "declarations have more than 65536 characters", LONGEST_DECLARATIONS - 1,
+        [&](int length) { return declared(QString("<!ENTITY e '%1'>").arg(QString(length, 'x'))); });
+    row("entity used often", "entities expand to more than 1000000 characters", LONGEST_EXPANSION / 1000,
+        [&](int count) { return declared(thousand, QString("&e;").repeated(count)); });
+    row("entity of entities", "entities expand to more than 1000000 characters", LONGEST_EXPANSION / 1000 - 1,
+        [&](int count) { return declared(thousand + "<!ENTITY f '&#38;e;'>", "&f;" + QString("&e;").repeated(count - 1)); });
+    row("parameter entity", "entities expand to more than 1000000 characters", LONGEST_EXPANSION / 1000,
+        [&](int count) { return declared(QString("<!ENTITY % p '%1'>").arg(QString(999, ' ')) + QString("%p;").repeated(count)); });
+    row("parentheses", "the document type has more than 1000 parentheses", MOST_PARENTHESES,
+        [&](int count) { return declared(open.arg(QString("(").repeated(count), QString(")").repeated(count))); });
+    row("levels", "the levels of all nodes are more than 120000000", 27999,
+        [](int count) { return QString("<DCS>%1%2%3</DCS>").arg(QString("<a>").repeated(3999), QString("<!---->").repeated(count), QString("</a>").repeated(3999)); });
+    // clang-format on
+}
+
+void TestReading::boundsTheCost()
+{
+    QFETCH(QString, within);
+    QFETCH(QString, beyond);
+    QFETCH(QString, message);
     QString nothing;
-    QCOMPARE(read(QString("<DCS>%1</DCS>").arg(nested(DEEPEST_NESTING - 1)), nothing), QString("read, "));
-    for (const int depth : {DEEPEST_NESTING, 300000})
-        QCOMPARE(read(QString("<DCS>\n%1</DCS>").arg(nested(depth)), nothing),
-                 QString("failed, Parse error at line 2, column 3000:\nelements are nested deeper than 1000 levels"));
+    QCOMPARE(read(within, nothing), QString("read, "));
+    const QString outcome = read(beyond, nothing);
+    QVERIFY2(outcome.startsWith("failed, Parse error at line 1, column "), qPrintable(outcome));
+    QCOMPARE(outcome.section('\n', 1), message);
+}
+
+void TestReading::boundsTheSize()
+{
+    const Folder folder;
+    QFile file(folder.write("file.xml", "<DCS>"));
+    QVERIFY(file.resize(LARGEST_FILE + 1));
+    QString error;
+    QDomDocument document;
+    QVERIFY(!openDocument(file.fileName(), DEVICE_FRAME, Report{error}, document));
+    QCOMPARE(error, QString("Parse error at line 1, column 1:\nthe file is larger than 16777216 bytes"));
 }
 
 QTEST_GUILESS_MAIN(TestReading)

@@ -12,6 +12,10 @@
 
 #include <vector>
 
+// Under Qt's keyword macro of that name the member `slots` would vanish without a message.
+#pragma push_macro("slots")
+#undef slots
+
 namespace LCD::MainConfig {
 
 /// One device. A file that cannot be read costs its own contribution alone, so that any member may stand at its
@@ -26,5 +30,7 @@ struct s_Device {
 };
 
 } // namespace LCD::MainConfig
+
+#pragma pop_macro("slots")
 
 #endif

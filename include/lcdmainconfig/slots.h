@@ -3,13 +3,13 @@
 #ifndef LCDMAINCONFIG_SLOTS_H
 #define LCDMAINCONFIG_SLOTS_H
 
-#ifdef slots
-#error "Define QT_NO_KEYWORDS: Qt's keyword macro 'slots' would make the member of that name vanish without a message."
-#endif
-
 #include <cstdint>
 #include <string>
 #include <vector>
+
+// Under Qt's keyword macro of that name the member `slots` would vanish without a message.
+#pragma push_macro("slots")
+#undef slots
 
 namespace LCD::MainConfig {
 
@@ -78,5 +78,7 @@ struct s_Slots {
 struct s_DCSSolt : s_Slots {};
 
 } // namespace LCD::MainConfig
+
+#pragma pop_macro("slots")
 
 #endif

@@ -4,6 +4,7 @@
 
 #include "panel.h"
 #include "rules.h"
+#include "vocabulary.h"
 
 #include "common/access.h"
 
@@ -71,8 +72,9 @@ std::set<Field> comparedFields()
 /// The check of one root.
 class RootCheck {
 public:
-    RootCheck(QString root, Checked& out, const std::function<void(const QString&)>& progress)
-        : _root(std::move(root)), _out(out), _progress(progress), _collected(comparedFields())
+    RootCheck(QString root, const Vocabulary& vocabulary, Checked& out,
+              const std::function<void(const QString&)>& progress)
+        : _root(std::move(root)), _vocabulary(vocabulary), _out(out), _progress(progress), _collected(comparedFields())
     {}
 
     void run();
@@ -86,11 +88,12 @@ private:
     Finding& add(const char* id, const QString& path, const QString& message);
 
     QString _root;
+    const Vocabulary& _vocabulary;
     Checked& _out;
     const std::function<void(const QString&)>& _progress;
     Collected _collected;
     Panel _panel;
-    Hearing _hearing{[this](HeardFile& file) { heard(file); }};
+    Hearing _hearing{[this](HeardFile& file) { heard(file); }, &_vocabulary};
     QSet<QString> _known; ///< Files that were read, or about which something was said.
     int _checkedKeys = 0;
 };
@@ -119,7 +122,7 @@ void RootCheck::heard(HeardFile& file)
     if (_progress) _progress(file.path);
     ++_out.files;
     judgeFrame(file, _out.findings);
-    judgeStructure(file, nullptr, _out.findings);
+    judgeStructure(file, &_vocabulary, _out.findings);
     judgeValues(file, _out.findings);
     _collected.add(file);
     if (file.wasRead || !file.refusals.empty()) _known.insert(file.path);
@@ -220,7 +223,8 @@ void RootCheck::run()
 Checked check(const Request& request, const std::function<void(const QString& file)>& progress)
 {
     Checked checked;
-    for (const QString& root : request.roots) RootCheck(QDir::cleanPath(root), checked, progress).run();
+    const GrammarVocabulary vocabulary;
+    for (const QString& root : request.roots) RootCheck(QDir::cleanPath(root), vocabulary, checked, progress).run();
     checked.line = [last = QString(), source = Source()](const QString& file, int line) mutable {
         if (file != last) {
             source = Source::readFile(file).value_or(Source());

@@ -124,9 +124,8 @@ public:
     [[nodiscard]] virtual bool mayHave(const QString& file, const QString& path, const QString& attribute) const = 0;
     /// The tag under which a child of that tag may stand elsewhere; empty when it is known nowhere.
     [[nodiscard]] virtual QString homeOfElement(const QString& file, const QString& tag) const = 0;
-    /// The tag of the element nearest to the path that may have the attribute; empty when none does.
-    [[nodiscard]] virtual QString homeOfAttribute(const QString& file, const QString& path,
-                                                  const QString& attribute) const = 0;
+    /// The tag of an element that has such an attribute; empty when none does, or many do.
+    [[nodiscard]] virtual QString homeOfAttribute(const QString& file, const QString& attribute) const = 0;
 };
 
 /// Hears whole reads, file by file. A reader that would stop goes on: a required child that is missing is read from an

@@ -172,8 +172,7 @@ void Structure::judgeAttributes(const Spot& spot)
         finding.hint = didYouMean(name, absent);
         if (finding.hint.isEmpty()) finding.hint = didYouMean(name, present);
         if (finding.hint.isEmpty() && _vocabulary != nullptr)
-            if (const QString home = _vocabulary->homeOfAttribute(_file.path, _file.pathOf(spot.index), name);
-                !home.isEmpty())
+            if (const QString home = _vocabulary->homeOfAttribute(_file.path, name); !home.isEmpty())
                 finding.hint = QString("%1 is an attribute of %2").arg(quoted(name), quoted(home));
     }
 }

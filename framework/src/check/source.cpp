@@ -7,14 +7,10 @@
 #include <QFile>
 
 #include <algorithm>
+#include <limits>
 
 namespace lcdcheck {
 namespace {
-
-bool isNameCharacter(QChar c)
-{
-    return c.isLetterOrNumber() || c.isMark() || c == u'_' || c == u'.' || c == u'-' || c == u':';
-}
 
 uint predefined(QStringView name)
 {
@@ -36,14 +32,38 @@ int digitOf(char16_t c, int base)
 
 } // namespace
 
+bool beginsName(QChar c) { return c.isLetter() || c.category() == QChar::Number_Letter || c == u'_' || c == u':'; }
+
+bool continuesName(QChar c) { return beginsName(c) || c.isNumber() || c.isMark() || c == u'.' || c == u'-'; }
+
 QStringView localName(QStringView qualified) { return qualified.mid(qualified.indexOf(u':') + 1); }
 
 Source Source::read(const QByteArray& bytes)
 {
     Source source;
     SourceDecoder(source).decode(bytes);
-    SourceScanner(source).scan();
+    const size_t faults = source._faults.size();
+    const bool fatal = source._fatal;
+    SourceScanner plain(source, SourceScanner::Nesting::ByTags);
+    plain.scan();
+    if (!plain.tagsDisagree()) return source;
+    source.forget(faults, fatal);
+    SourceScanner(source, SourceScanner::Nesting::ByIndentation).scan();
     return source;
+}
+
+void Source::forget(size_t faults, bool fatal)
+{
+    _text.truncate(_fileLength);
+    _added.clear();
+    _elements.clear();
+    _attributes.clear();
+    _texts.clear();
+    _comments.clear();
+    _entities.clear();
+    _faults.resize(faults);
+    _fatal = fatal;
+    _moreFaults = false;
 }
 
 std::optional<Source> Source::readFile(const QString& path)
@@ -87,12 +107,8 @@ void Source::appendDecoded(QString& out, QStringView raw) const
         if (reference.kind == Reference::Kind::Bare) {
             out += u'&';
         } else if (reference.kind == Reference::Kind::Character) {
-            if (QChar::requiresSurrogates(reference.code)) {
-                out += QChar(QChar::highSurrogate(reference.code));
-                out += QChar(QChar::lowSurrogate(reference.code));
-            } else {
-                out += QChar(ushort(reference.code));
-            }
+            // The parser knows no more than 16 bits of a number either.
+            out += QChar(ushort(reference.code));
         } else if (const auto entity = _entities.constFind(reference.name.toString()); entity != _entities.constEnd()) {
             // A usable entity neither refers to itself nor grows beyond a bound, so this ends.
             if (entity->state == Entity::State::Usable) appendDecoded(out, entity->value);
@@ -111,14 +127,17 @@ Source::Reference Source::referenceAt(QStringView text, int position)
         const int base = at(++i) == u'x' ? 16 : 10;
         if (base == 16) ++i;
         const int first = i;
+        quint64 code = 0;
         for (int digit = 0; (digit = digitOf(at(i), base)) >= 0; ++i)
-            result.code = std::min(result.code * uint(base) + uint(digit), 0x110000U);
+            code = std::min<quint64>(code * uint(base) + uint(digit), std::numeric_limits<uint>::max());
+        result.code = uint(code);
         if (i == first) return result;
         result.kind = Reference::Kind::Character;
     } else {
         // A name that goes on for ever is no reference; the bound keeps many of them from being read over and over.
         const int last = std::min(size, i + 256);
-        while (i < last && isNameCharacter(text[i])) ++i;
+        if (i < last && beginsName(text[i]))
+            while (i < last && continuesName(text[i])) ++i;
         result.name = text.mid(position + 1, i - position - 1);
         result.code = predefined(result.name);
         if (result.code == 0 && (result.name.isEmpty() || at(i) != u';')) return result;

@@ -152,6 +152,8 @@ private:
         QStringView name; ///< Of another entity.
     };
 
+    /// Takes back all that was read but the text and its own faults.
+    void forget(size_t faults, bool fatal);
     static Reference referenceAt(QStringView text, int position);
     [[nodiscard]] QString decoded(Span span) const;
     void appendDecoded(QString& out, QStringView raw) const;
@@ -175,6 +177,10 @@ private:
 
 /// The part of a qualified name by which the DOM knows it: what follows the first colon, or all of it.
 QStringView localName(QStringView qualified);
+
+/// The letters of names, as the panel's parser has them.
+bool beginsName(QChar c);
+bool continuesName(QChar c);
 
 } // namespace lcdcheck
 

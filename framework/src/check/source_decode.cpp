@@ -122,6 +122,8 @@ void SourceDecoder::checkCharacter(int offset)
     if (c.isLowSurrogate() && offset > 0 && text[offset - 1].isHighSurrogate()) {
         _source._wide.push_back(offset);
     } else if (code < 0x20) {
+        // One for a whole run.
+        if (offset > 0 && text[offset - 1] == c) return;
         fault(span, QStringLiteral("control character U+%1").arg(hex(code)), Source::Fault::Kind::Syntax, false);
     } else if (code >= 0xFFFE) {
         fault(span, QStringLiteral("the parser takes U+%1 for the end of the file").arg(hex(code)),

@@ -40,6 +40,7 @@ void SourceScanner::open(int index)
     for (; _loneComments < _source._comments.size(); ++_loneComments) _source._comments[_loneComments].element = index;
 
     if (_open.empty() && index > 0) {
+        _tagsDisagree = true;
         const Source::Element& root = elements[0];
         fault(
             element.tag,
@@ -55,20 +56,23 @@ void SourceScanner::open(int index)
     if (!_open.empty()) {
         Open& parent = _open.back();
         element.parent = parent.element;
-        if (parent.firstUnder < 0 && indent >= 0 && indent <= parent.indent) parent.firstUnder = index;
+        const bool twins = isOnLineOf(parent, element.tag.begin) &&
+                           _source.slice(element.name) == _source.slice(elementOf(parent).name);
+        if (parent.firstUnder < 0 && (twins || (indent >= 0 && indent <= parent.indent))) parent.firstUnder = index;
     }
     if (int(_open.size()) >= DEEPEST_NESTING && !std::exchange(_tooDeep, true))
         fault(element.tag, QStringLiteral("elements are nested deeper than %1 levels").arg(DEEPEST_NESTING));
     if (!element.selfClosed) _open.push_back({index, indent});
 }
 
-void SourceScanner::endTag()
+void SourceScanner::endTag(int bracket)
 {
     const int begin = _position;
-    Span name{begin + 2, begin + 2};
-    name.begin = skipSpace(name.begin);
+    const int slash = begin + bracket;
+    Span name;
+    name.begin = skipSpace(slash + 1);
     name.end = nameEnd(name.begin);
-    if (name.begin > begin + 2)
+    if (name.begin > slash + 1)
         fault({begin, name.end}, QStringLiteral("white space between \"</\" and \"%1\"").arg(shown(name)));
     int i = skipSpace(name.end);
     if (at(i) != '>') {
@@ -90,12 +94,15 @@ void SourceScanner::endTag()
 void SourceScanner::close(Span name, Span tag)
 {
     const QStringView wanted = _source.slice(name);
-    if (!_open.empty() && _source.slice(elementOf(_open.back()).name) == wanted) {
+    const int indent = indentOf(tag.begin);
+    const bool matches = !_open.empty() && _source.slice(elementOf(_open.back()).name) == wanted;
+    if (matches && !belongsToAncestor(wanted, indent)) {
         closeTop(tag);
         return;
     }
-    const int indent = indentOf(tag.begin);
-    const int level = openAncestor(wanted);
+    _tagsDisagree = true;
+    int level = openAncestor(wanted);
+    while (matches && _open[size_t(level)].indent != indent) --level;
     if (level >= 0) {
         const Open& top = _open.back();
         const Open& ancestor = _open[size_t(level)];
@@ -178,6 +185,20 @@ int SourceScanner::openAncestor(QStringView name)
     return -1;
 }
 
+/// Whether an end tag that the innermost element could take stands under an outer one of the same name instead.
+bool SourceScanner::belongsToAncestor(QStringView name, int indent)
+{
+    if (_nesting == Nesting::ByTags || indent < 0) return false;
+    const Open& top = _open.back();
+    if (top.indent >= 0 && top.indent <= indent) return false;
+    for (int level = int(_open.size()) - 2; level >= 0 && --_patience > 0; --level) {
+        const Open& open = _open[size_t(level)];
+        if (open.indent >= 0 && open.indent < indent) return false;
+        if (open.indent == indent) return _source.slice(elementOf(open).name) == name;
+    }
+    return false;
+}
+
 bool SourceScanner::isOnLineOf(const Open& open, int offset) const
 {
     return _source.lineIndex(elementOf(open).tag.begin) == _source.lineIndex(offset);
@@ -228,8 +249,8 @@ bool SourceScanner::wasMeantAsEndTag(int level)
     const Open& inner = _open[size_t(level)];
     const Open& outer = _open[size_t(level) - 1];
     const Source::Element& element = elementOf(inner);
-    return element.attributeCount == 0 && element.parent == outer.element && inner.indent == outer.indent &&
-           (inner.indent >= 0 || isOnLineOf(inner, elementOf(outer).tag.begin)) &&
+    return element.attributeCount == 0 && element.parent == outer.element &&
+           (inner.indent >= 0 ? inner.indent == outer.indent : isOnLineOf(outer, element.tag.begin)) &&
            _source.slice(element.name) == _source.slice(elementOf(outer).name);
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace lcdcheck {
 namespace {
@@ -79,8 +80,9 @@ void SourceScanner::documentType()
     else if (name.isEmpty() || name.begin == keyword.end)
         fault({begin, keyword.end}, QStringLiteral("DOCTYPE without the name of the root element"));
     Span subset;
-    const int end = endOfDocumentType(name.end, subset);
+    const int end = _documentTypeIsOpen ? -1 : endOfDocumentType(name.end, subset);
     if (end < 0) {
+        _documentTypeIsOpen = true;
         fault({begin, keyword.end}, QStringLiteral("DOCTYPE that is not ended by \">\""));
         int i = name.end;
         while (i < _end && _data[i] != u'>' && _data[i] != u'<') ++i;
@@ -204,10 +206,14 @@ bool SourceScanner::reference(int position, bool inAttribute)
     }
     if (found.kind == Source::Reference::Kind::Character) {
         const uint code = found.code;
-        const bool legal = code >= 0x20
-                               ? code < 0xD800 || (code > 0xDFFF && code != 0xFFFE && code != 0xFFFF && code < 0x110000)
-                               : code == '\t' || code == '\n' || code == '\r';
-        if (!legal) fault(span, QStringLiteral("\"%1\" is no character of XML").arg(shown(span)), code > 0x10FFFF);
+        const bool control = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
+        if (control || (code >= 0xD800 && code < 0xE000) || code == 0xFFFE || code == 0xFFFF || code > 0x10FFFF)
+            fault(span, QStringLiteral("\"%1\" is no character of XML").arg(shown(span)),
+                  code == std::numeric_limits<uint>::max());
+        else if (code > 0xFFFF)
+            fault(span,
+                  QStringLiteral("\"%1\" is read as another character, written itself it is read").arg(shown(span)),
+                  false);
         return false;
     }
     const auto entity = _source._entities.find(found.name.toString());

@@ -39,6 +39,16 @@ void SourceScanner::text()
 {
     const int begin = _position;
     int i = begin;
+    if (_nesting == Nesting::ByIndentation && lacksBracket(skipSpace(begin))) {
+        _position = skipSpace(begin);
+        const Span name{_position, nameEnd(_position + 1)};
+        fault(name, QStringLiteral("\"<\" is missing before \"%1\"").arg(shown(name)));
+        if (at(_position) == '/')
+            endTag(0);
+        else
+            startTag(0);
+        return;
+    }
     bool elementsFollow = false;
     for (; i < _end && !elementsFollow; ++i) {
         const ushort c = _data[i].unicode();
@@ -77,7 +87,7 @@ void SourceScanner::addText(Span span, bool cdata)
                                               : QStringLiteral("text behind the end of the root element"));
         return;
     }
-    if (!cdata && raw[0] == u'&' ? blank(_source.decoded(span)) : false) return;
+    if (!cdata && raw.contains(u'&') && blank(_source.decoded(span))) return;
     const int parent = _open.back().element;
     Source::Element& element = _source._elements[size_t(parent)];
     if (element.firstText < 0) element.firstText = int(_source._texts.size());
@@ -200,10 +210,12 @@ void SourceScanner::instruction()
 
 void SourceScanner::finish()
 {
+    _tagsDisagree |= !_open.empty();
     closeAbove(-1, {_end, _end});
     if (_source._elements.empty())
         fault({0, 0}, _source._fileLength == 0 ? QStringLiteral("the file is empty")
                                                : QStringLiteral("the file has no element"));
+    if (_tagsDisagree && _nesting == Nesting::ByTags) return;
     auto& faults = _source._faults;
     std::stable_sort(faults.begin(), faults.end(),
                      [](const Source::Fault& a, const Source::Fault& b) { return a.span.begin < b.span.begin; });
@@ -226,7 +238,8 @@ int SourceScanner::nameEnd(int position) const
 {
     for (; position < _end; ++position) {
         const ushort c = _data[position].unicode();
-        if (c <= ' ' || c == 0xA0 || c == '>' || c == '<' || c == '/' || c == '=' || c == '"' || c == '\'' || c == '?')
+        if (isSpace(c) || c == 0xA0 || c == '>' || c == '<' || c == '/' || c == '=' || c == '"' || c == '\'' ||
+            (c == '?' && at(position + 1) == '>'))
             break;
     }
     return position;

@@ -10,8 +10,14 @@ namespace lcdcheck {
 
 class SourceScanner {
 public:
-    explicit SourceScanner(Source& source) : _source(source) {}
+    /// What decides where an element ends. A file whose tags don't pair is read a second time by its indentation, which
+    /// is no evidence against tags that do.
+    enum class Nesting { ByTags, ByIndentation };
+
+    SourceScanner(Source& source, Nesting nesting) : _source(source), _nesting(nesting) {}
     void scan();
+    /// Whether some tag had no partner.
+    [[nodiscard]] bool tagsDisagree() const { return _tagsDisagree; }
 
 private:
     using Span = Source::Span;
@@ -62,7 +68,9 @@ private:
     // source_tags.cpp: start tags and attributes
     [[nodiscard]] bool looksLikeTag(int position) const;
     [[nodiscard]] bool looksLikeAttribute(int position) const;
-    void startTag();
+    [[nodiscard]] bool lacksBracket(int position) const;
+    /// Both may lack their "<", which is then 0 characters long.
+    void startTag(int bracket = 1);
     void attributes(Source::Element& element);
     void attribute(Source::Element& element, bool spaced);
     Span attributeValue();
@@ -74,12 +82,13 @@ private:
     void checkName(Span name, const char* what);
 
     // source_nesting.cpp: end tags, and what the author meant by wrong ones
-    void endTag();
+    void endTag(int bracket = 1);
     void open(int element);
     void close(Span name, Span tag);
     bool closesMisspelled(Span name, Span tag, int indent);
     bool reopensSelfClosed(Span name, Span tag, int indent);
     [[nodiscard]] int openAncestor(QStringView name);
+    [[nodiscard]] bool belongsToAncestor(QStringView name, int indent);
     [[nodiscard]] bool isOnLineOf(const Open& open, int offset) const;
     void closeTop(Span tag);
     void closeAbove(int level, Span tag);
@@ -106,13 +115,15 @@ private:
     }
 
     Source& _source;
+    Nesting _nesting;
+    bool _tagsDisagree = false;
     const QChar* _data = nullptr;
     int _position = 0;
     int _end = 0;
     std::vector<Frame> _frames;
     std::vector<Open> _open;
-    size_t _loneComments = 0; ///< The first comment for which the next element may still follow directly.
-    bool _documentTypeSeen = false;
+    size_t _loneComments = 0;         ///< The first comment for which the next element may still follow directly.
+    bool _documentTypeIsOpen = false; ///< One without an end was found; no other needs to look for it.
     bool _tooDeep = false;
     Finder _commentEnd{u"-->"};
     Finder _commentBegin{u"<!--"};

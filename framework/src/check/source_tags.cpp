@@ -8,9 +8,6 @@ namespace {
 
 bool isQuote(ushort c) { return c == '"' || c == '\''; }
 bool isSpace(ushort c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
-bool beginsName(QChar c) { return c.isLetter() || c.category() == QChar::Number_Letter || c == u'_' || c == u':'; }
-
-bool continuesName(QChar c) { return beginsName(c) || c.isNumber() || c.isMark() || c == u'.' || c == u'-'; }
 
 /// Quotes as word processors set them.
 bool isCurlyQuote(ushort c) { return c == 0x201C || c == 0x201D || c == 0x201E || c == 0x2018 || c == 0x2019; }
@@ -33,7 +30,12 @@ bool SourceScanner::looksLikeTag(int position) const
     const int next = skipSpace(end);
     const ushort c = at(next);
     if (c == '>' || c == '/') return true;
-    if (next == end && c != '<') return c == 0 && !apart;
+    if (next == end && c != '<') {
+        // Something strange in a tag's name, provided that it ends as a tag does.
+        const auto* const rest = std::find_if(
+            _data + end, _data + _end, [](QChar q) { return q == u'<' || q == u'>' || q == u'\n' || q == u'\r'; });
+        return !apart && beginsName(_data[i]) && (rest == _data + _end ? c == 0 : *rest == u'>');
+    }
     if (c == '<' || c == 0) {
         // A ">" may have been forgotten at the end of a line.
         return std::any_of(_data + end, _data + next, [](QChar space) { return space == u'\n' || space == u'\r'; });
@@ -48,15 +50,29 @@ bool SourceScanner::looksLikeAttribute(int position) const
     return c == '=' || isQuote(at(end)) || (end > position && (c == '>' || c == '/'));
 }
 
-void SourceScanner::startTag()
+/// Whether a text is a tag that has lost its "<".
+bool SourceScanner::lacksBracket(int position) const
+{
+    if (position >= _end || (_open.empty() && !_source._elements.empty())) return false;
+    const int name = at(position) == '/' ? position + 1 : position;
+    if (name == _end || !beginsName(_data[name])) return false;
+    const int end = nameEnd(name);
+    if (at(end) == '>') return true;
+    if (name > position || !isSpace(at(end))) return false;
+    const int next = skipSpace(end);
+    const int behind = nameEnd(next);
+    return behind > next && at(behind) == '=' && isQuote(at(behind + 1));
+}
+
+void SourceScanner::startTag(int bracket)
 {
     const int begin = _position;
-    const int first = skipSpace(begin + 1);
+    const int first = skipSpace(begin + bracket);
     Source::Element element;
     element.name = {first, nameEnd(first)};
     element.tag = {begin, element.name.end};
     element.firstAttribute = int(_source._attributes.size());
-    if (first > begin + 1)
+    if (first > begin + bracket)
         fault(element.tag, QStringLiteral("white space between \"<\" and \"%1\"").arg(shown(element)));
     else
         checkName(element.name, "a tag");

@@ -36,18 +36,22 @@ int Table::widestCell(std::size_t column) const
 
 std::vector<int> Table::fittingWidths(int room) const
 {
-    // Titles and words are cut before numbers are: half a number is a wrong one.
-    constexpr int LEAST_WORD = 4;
+    // First long words and titles are cut, then all words and titles. Numbers come last: half a number is a wrong one.
+    struct Least {
+        int title;
+        int word;
+    };
     std::vector<int> widths;
-    std::vector<int> least;
-    for (std::size_t i = 0; i < _columns.size(); ++i) {
-        const int cell = widestCell(i);
-        widths.push_back(std::max(columnsOf(_columns[i].title), cell));
-        least.push_back(std::max(1, _columns[i].number ? cell : std::min(cell, LEAST_WORD)));
+    for (std::size_t i = 0; i < _columns.size(); ++i)
+        widths.push_back(std::max({1, columnsOf(_columns[i].title), widestCell(i)}));
+    const int cells = room - INDENT - GAP * (int(_columns.size()) - 1);
+    for (const Least& stage : {Least{5, 16}, Least{3, 10}, Least{1, 4}}) {
+        std::vector<int> least;
+        for (std::size_t i = 0; i < _columns.size(); ++i)
+            least.push_back(_columns[i].number ? std::max(stage.title, widestCell(i)) : stage.word);
+        narrow(widths, least, cells);
     }
-    const int gaps = INDENT + GAP * (int(_columns.size()) - 1);
-    narrow(widths, least, room - gaps);
-    narrow(widths, std::vector<int>(widths.size(), 1), room - gaps);
+    narrow(widths, std::vector<int>(widths.size(), 1), cells);
     return widths;
 }
 
@@ -55,7 +59,7 @@ QString Table::laidOut(const QStringList& cells, const std::vector<int>& widths)
 {
     QString line(INDENT, QChar(' '));
     for (std::size_t i = 0; i < _columns.size(); ++i) {
-        const QString cell = widths[i] > 0 ? cut(printable(cells.value(int(i))), widths[i]) : QString();
+        const QString cell = cut(printable(cells.value(int(i))), widths[i]);
         const QString room(widths[i] - columnsOf(cell), QChar(' '));
         line += _columns[i].number ? room + cell : cell + room;
         line += QString(GAP, QChar(' '));

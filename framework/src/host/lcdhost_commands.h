@@ -1,9 +1,9 @@
-// The commands of the program. Each reads what it needs, and writes what a person wants to know.
+// The commands of the program. Each reads what it needs, and answers what one wants to know.
 #ifndef LCDHOST_COMMANDS_H
 #define LCDHOST_COMMANDS_H
 
+#include "lcdhost_answer.h"
 #include "lcdhost_session.h"
-#include "lcdhost_text.h"
 
 #include <optional>
 
@@ -16,26 +16,19 @@ struct Options {
     bool json = false;
     bool svg = false;
     bool userSettings = false;
+    QString device; ///< The device to be shown, by the name of its folder or its own; empty for the first.
 };
 
-/// Where a command writes: the answer to `out`, what stands in its way to `complaints`.
-struct Console {
-    Page out{stdout};
-    Page complaints{stderr};
-};
+// Problems of the load are the caller's to tell.
+Answer runLoad(Session& session, const Options& options);
+Answer runCards(Session& session, const Options& options);
+Answer runResolutions(Session& session, const Options& options);
+Answer runScreens(Session& session, const Options& options);
+Answer runMenu(Session& session, const Options& options);
+Answer runSettings(Session& session, const Options& options);
 
-// False when the question has no answer. Problems of the load are the caller's to tell.
-bool runLoad(Session& session, const Options& options, Console& console);
-bool runCards(Session& session, const Options& options, Console& console);
-bool runResolutions(Session& session, const Options& options, Console& console);
-bool runScreens(Session& session, const Options& options, Console& console);
-/// The layouts of all screens below one another, as one SVG document.
-QByteArray screensDrawing(const Session& session);
-bool runMenu(Session& session, const Options& options, Console& console);
-bool runSettings(Session& session, const Options& options, Console& console);
-
-/// How many single values the factory settings have.
-int countSettings();
+/// The layouts of all screens of the devices below one another, as one SVG document.
+QByteArray screensDrawing(const Session& session, const QList<Lcd::s_Device>& devices);
 
 } // namespace lcdhost
 

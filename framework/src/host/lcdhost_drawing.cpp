@@ -36,10 +36,10 @@ struct Layout {
     PartsDrawing picture;
 };
 
-std::vector<Layout> layoutsOf(const Session& session)
+std::vector<Layout> layoutsOf(const Session& session, const QList<Lcd::s_Device>& devices)
 {
     std::vector<Layout> layouts;
-    for (const Lcd::s_Device& device : session.devices().DeviceConfigs())
+    for (const Lcd::s_Device& device : devices)
         for (const Lcd::s_DCSScreen& screen : device.screens)
             for (const Lcd::s_ScreenDeviceMode& mode : screen.deviceModes)
                 for (const Lcd::s_Templete& entry : mode.templetes)
@@ -58,9 +58,9 @@ std::vector<Layout> layoutsOf(const Session& session)
 
 } // namespace
 
-QByteArray screensDrawing(const Session& session)
+QByteArray screensDrawing(const Session& session, const QList<Lcd::s_Device>& devices)
 {
-    const std::vector<Layout> layouts = layoutsOf(session);
+    const std::vector<Layout> layouts = layoutsOf(session, devices);
     double height = MARGIN;
     for (const Layout& layout : layouts) height += TITLE + layout.picture.height() + MARGIN;
     Markup out(session.isEnglish() ? Markup::Language::English : Markup::Language::Chinese);

@@ -1,5 +1,7 @@
 // The command that reads everything, as the panel application does at start-up, and tells what came of it.
 #include "lcdhost_commands.h"
+#include "lcdhost_settings.h"
+#include "lcdhost_slots.h"
 
 #include <algorithm>
 #include <set>
@@ -8,96 +10,71 @@
 namespace lcdhost {
 namespace {
 
-template <class Enums> QString valuesOf(const Enums& enums)
+template <class Enums> QJsonArray valuesOf(const Enums& enums)
 {
-    return listed(enums, [](const auto& entry) { return number(entry.value); });
+    return jsonArray(enums, [](const auto& entry) { return entry.value; });
 }
 
-QString span(int min, int max) { return QString("%1 to %2").arg(min).arg(max); }
-
-void tellDevice(const Session& session, Page& page)
+Facts deviceFacts(const Session& session, const Lcd::s_Device& device)
 {
-    const Lcd::s_Device device = session.devices().curDeviceConfigs();
-    page.heading("Device");
-    Table facts({words(), words()});
-    const auto given = [](const QString& value) { return value.isEmpty() ? "not given" : value; };
-    if (!session.devices().DeviceConfigs().isEmpty()) {
-        facts.add({"Name", given(text(device.feature.name))});
-        facts.add({"Type name", given(session.devices().findDeviceTypeName())});
-        facts.add({"Brand", given(session.devices().getBrand())});
-        facts.add({"Module id", number(qulonglong(device.feature.moduleId))});
-        facts.add({"Silk order", QString("%1 connectors").arg(device.silkOrders.size())});
-    }
-    facts.print(page, "none");
+    Facts facts;
+    if (session.devices().DeviceConfigs().isEmpty()) return facts;
+    const auto given = [](const QString& value) { return Cell(value, value.isEmpty() ? "not given" : value); };
+    facts.add("Name", given(text(device.feature.name)));
+    facts.add("Type name", given(session.devices().findDeviceTypeName()));
+    facts.add("Brand", given(session.devices().getBrand()));
+    facts.add("Module id", device.feature.moduleId);
+    const int silkOrder = int(device.silkOrders.size());
+    facts.add("Silk order", {silkOrder, QString("%1 connectors").arg(silkOrder)});
+    return facts;
 }
 
-void tellOtherDevices(const Session& session, Page& page)
+void answerOtherDevices(const Session& session, Answer& answer)
 {
     const auto& devices = session.devices().DeviceConfigs();
     if (devices.size() < 2) return;
-    page.heading("Other devices");
-    Table table({words("Name"), numbers("Module id")});
+    Records records({words("Name"), numbers("Module id")});
     for (const Lcd::s_Device& device : devices.mid(1))
-        table.add({text(device.feature.name), number(qulonglong(device.feature.moduleId))});
-    table.print(page);
+        records.add({text(device.feature.name), device.feature.moduleId});
+    answer.add("Other devices", records);
 }
 
-/// One slot with the class it belongs to.
-struct ClassSlot {
-    Lcd::s_Slot slot;
-    QString silkName;
-    QString className;
-};
-
-std::vector<ClassSlot> slotsByIndex(const Lcd::s_Slots& all)
-{
-    const std::pair<const char*, const Lcd::s_SlotAttr*> classes[] = {{"main control", &all.mainControlCardSlots},
-                                                                      {"reserved", &all.reservedCardSlots},
-                                                                      {"mixed", &all.mixCardSlots},
-                                                                      {"input", &all.inputCardSlots},
-                                                                      {"output", &all.outputCardSlots},
-                                                                      {"multi-view", &all.mvrCardSlots},
-                                                                      {"auxiliary", &all.auxCardSlots},
-                                                                      {"expansion", &all.expCardSlots}};
-    std::vector<ClassSlot> found;
-    for (const auto& [name, attr] : classes)
-        for (const Lcd::s_Slot& slot : attr->slots) found.push_back({slot, text(attr->silkScreenName), name});
-    std::stable_sort(found.begin(), found.end(),
-                     [](const ClassSlot& a, const ClassSlot& b) { return a.slot.index < b.slot.index; });
-    return found;
-}
-
-void tellSlots(const Session& session, Page& page)
+Records slotRecords(const Session& session)
 {
     const auto cards = session.cards().subcardConfig();
-    Table table({numbers("Slot"), words("Silk name"), words("Class"), numbers("Card"), words("Card name")});
+    Records records({numbers("Slot"), words("Silk name"), words("Class"), numbers("Card"), words("Card name")});
     for (const ClassSlot& entry : slotsByIndex(session.devices().curDeviceConfigs().slots)) {
-        QStringList row{number(entry.slot.index), entry.silkName, entry.className};
-        if (entry.slot.subcards.empty()) table.add(row + QStringList{"-", "takes no card"});
+        const std::vector<Cell> slot{entry.slot.index, entry.silkName, entry.className};
+        const auto add = [&](const Cell& card, const Cell& name, int shared) {
+            records.add({slot[0], slot[1], slot[2], card, name}, shared);
+        };
+        if (entry.slot.subcards.empty()) add(QJsonValue::Null, {QJsonValue::Null, "takes no card"}, 0);
+        int shared = 0;
         for (const Lcd::s_InlineSubcard& card : entry.slot.subcards) {
             const QString name = session.cardName(*cards, card.moduleId);
-            table.add(row + QStringList{number(qulonglong(card.moduleId)), name.isEmpty() ? "not in catalogue" : name});
-            row = QStringList{{}, {}, {}};
+            const Cell known = session.hasCard(card.moduleId) ? Cell(name) : Cell(QJsonValue::Null, "not in catalogue");
+            add(card.moduleId, known, std::exchange(shared, int(slot.size())));
         }
     }
-    page.heading("Slots");
-    table.print(page, "none");
+    return records;
 }
 
-QString mosaicDetail(const Lcd::s_MOSAICSource& source)
+Cell mosaicDetail(const Lcd::s_MOSAICSource& source)
 {
-    return source.subSourceTypes.empty() ? QString() : "sub-source types " + valuesOf(source.subSourceTypes);
+    const Cell types = valuesOf(source.subSourceTypes);
+    return {types.value, source.subSourceTypes.empty() ? QString() : "sub-source types " + types.shown};
 }
 
-void tellFeatures(const Session& session, Page& page)
+/// A count with words around it.
+template <class Count> Cell counted(Count count, const char* words) { return {int(count), QString(words).arg(count)}; }
+
+Records featureRecords(const Session& session, const Lcd::s_DeviceFeature& feature)
 {
-    page.heading("Features");
-    const Lcd::s_Device device = session.devices().curDeviceConfigs();
-    const Lcd::s_DeviceFeature& feature = device.feature;
     const Lcd::s_FuncFeatures& functions = feature.funcFeatures;
-    Table table({words("Feature"), words("Supported"), words("Detail")});
-    const auto add = [&table](const QString& name, const Lcd::s_SupportInfo& info, const QString& detail = {}) {
-        table.add({name, text(info.support != 0), info.support != 0 ? detail : QString()});
+    Records records({words("Feature"), words("Supported"), words("Detail")});
+    const Cell none(QJsonValue::Null, QString());
+    const auto add = [&](const char* name, const Lcd::s_SupportInfo& info, const Cell& detail) {
+        records.add({name, info.support != 0, info.support != 0 ? detail : none});
     };
     const auto protocol = [](const Lcd::s_PtzProtocol& entry) { return text(entry.protocolName); };
     const auto feed = [](const Lcd::s_CleanFeed& entry) { return text(entry.name); };
@@ -107,114 +84,124 @@ void tellFeatures(const Session& session, Page& page)
     add("Languages", functions.language, valuesOf(functions.language.enums));
     add("Switch effects", functions.switchEffect, valuesOf(functions.switchEffect.type.enums));
     add("Genlock", functions.genlock, valuesOf(functions.genlock.type.enums));
-    add("HDCP", functions.hdcp);
-    add("HDR", feature.hdr);
-    add("Media pool", functions.mediaPool);
-    add("Recording", functions.record, QString("%1 at most").arg(functions.record.maxCount));
+    add("HDCP", functions.hdcp, none);
+    add("HDR", feature.hdr, none);
+    add("Media pool", functions.mediaPool, none);
+    add("Recording", functions.record, counted(functions.record.maxCount, "%1 at most"));
     add("Push stream", feature.pushStream,
-        QString("%1 timings").arg(feature.pushStream.timingPreset.resolutionRatios.size()));
-    add("Quick topology", functions.quickToPology);
+        counted(feature.pushStream.timingPreset.resolutionRatios.size(), "%1 timings"));
+    add("Quick topology", functions.quickToPology, none);
     add("Mosaic sources", feature.mosaicSource, mosaicDetail(feature.mosaicSource));
-    add("Internal sources", feature.internalSource, number(feature.internalSource.details.size()));
-    add("Tally", feature.tally);
-    add("Camera control", feature.ptzs, listed(feature.ptzs.ptzProtocols, protocol));
-    add("Clean feeds", feature.cleanFeeds, listed(feature.cleanFeeds.cleanFeeds, feed));
-    add("Audio", feature.audio, session.devices().isSupportDantePort() ? "with a Dante port" : QString());
-    table.print(page);
+    add("Internal sources", feature.internalSource, int(feature.internalSource.details.size()));
+    add("Tally", feature.tally, none);
+    add("Camera control", feature.ptzs, jsonArray(feature.ptzs.ptzProtocols, protocol));
+    add("Clean feeds", feature.cleanFeeds, jsonArray(feature.cleanFeeds.cleanFeeds, feed));
+    add("Audio", feature.audio, session.devices().isSupportDantePort() ? Cell("with a Dante port") : none);
+    return records;
 }
 
-void tellScreens(const Lcd::s_Device& device, Page& page)
+Cell layerTypes(const std::vector<Lcd::s_LayerType>& types)
 {
-    page.heading("Screens");
-    Table table({numbers("Type"), numbers("Device mode"), words("Preview"), numbers("Templates"),
-                 words("Layer types (most at once)")});
-    const auto layerType = [](const Lcd::s_LayerType& type) {
+    const auto object = [](const Lcd::s_LayerType& type) {
+        return QJsonObject{{"type", type.layerType}, {"most", type.layerCountMax}};
+    };
+    const auto shown = [](const Lcd::s_LayerType& type) {
         return QString("%1 (%2)").arg(type.layerType).arg(type.layerCountMax);
     };
-    for (const Lcd::s_DCSScreen& screen : device.screens) {
-        QString type = number(screen.type);
-        if (screen.deviceModes.empty()) table.add({type, "-", "-", "-", "no device mode"});
-        for (const Lcd::s_ScreenDeviceMode& mode : screen.deviceModes)
-            table.add({std::exchange(type, {}), number(mode.value), text(mode.pvwSupport != 0),
-                       number(mode.templetes.size()), listed(mode.layerTypes, layerType)});
-    }
-    table.print(page, "none");
+    return {jsonArray(types, object), listed(types, shown)};
 }
 
-void tellLayers(const Session& session, const Lcd::s_Device& device, Page& page)
+Records screenRecords(const Lcd::s_Device& device)
 {
-    page.heading("Layers");
-    Table table({numbers("Type"), words("Window width"), words("Window height"), words("Sources"), words("Keying"),
-                 numbers("Borders"), numbers("Templates")});
+    Records records({numbers("Type"), numbers("Device mode"), words("Preview"), numbers("Templates"),
+                     words("Layer types (most at once)")});
+    for (const Lcd::s_DCSScreen& screen : device.screens) {
+        const Cell none = QJsonValue::Null;
+        if (screen.deviceModes.empty()) records.add({screen.type, none, none, none, {QJsonArray(), "no device mode"}});
+        int shared = 0;
+        for (const Lcd::s_ScreenDeviceMode& mode : screen.deviceModes)
+            records.add({screen.type, mode.value, mode.pvwSupport != 0, int(mode.templetes.size()),
+                         layerTypes(mode.layerTypes)},
+                        std::exchange(shared, 1));
+    }
+    return records;
+}
+
+Records layerRecords(const Session& session, const Lcd::s_Device& device)
+{
+    Records records({numbers("Type"), words("Window width"), words("Window height"), words("Sources"), words("Keying"),
+                     numbers("Borders"), numbers("Templates")});
     for (const Lcd::s_DCSLayer& layer : device.layers) {
         const Lcd::s_LayerWindow window = session.devices().findLayerWindowDefaultRange(layer.type);
-        table.add({number(layer.type), span(window.width.min, window.width.max),
-                   span(window.height.min, window.height.max), valuesOf(layer.source.type.enums),
-                   text(layer.cutoutGeneral.info.support != 0), number(layer.borders.size()),
-                   number(layer.deviceModes.templates.size())});
+        records.add({layer.type, span(window.width.min, window.width.max), span(window.height.min, window.height.max),
+                     valuesOf(layer.source.type.enums), layer.cutoutGeneral.info.support != 0,
+                     int(layer.borders.size()), int(layer.deviceModes.templates.size())});
     }
-    table.print(page, "none");
+    return records;
 }
 
 /// The catalogues one by one: how much there is, and what stands out.
 class Counts {
 public:
-    explicit Counts(const Session& session) : _session(session), _cards(*session.cards().subcardConfig()) {}
+    explicit Counts(Session& session) : _session(session), _cards(*session.cards().subcardConfig()) {}
 
-    void tell(Page& page)
+    [[nodiscard]] Records counted()
     {
         add("Devices", Catalogue::Devices, _session.devices().DeviceConfigs().size());
-        add("Cards", Catalogue::Cards, int(_cards.subcards.size()), lackingCards());
+        add("Cards", Catalogue::Cards, int(_cards.subcards.size()), gapsIn(Catalogue::Cards));
         addConnectors();
         addMenu();
         addKeys();
         addLockAreas();
         add("Settings", Catalogue::Settings, _session.isLoaded(Catalogue::Settings) ? countSettings() : 0);
-        page.heading("Catalogues");
-        _table.print(page);
+        return _records;
     }
 
 private:
     void add(const QString& name, Catalogue catalogue, int count, const QString& note = {})
     {
-        if (!_session.has(catalogue)) return _table.add({name, "-", "not there"});
+        if (!_session.has(catalogue)) return _records.add({name, QJsonValue::Null, "not there"});
         QStringList notes{note};
-        if (count == 0) notes.prepend("empty");
+        if (count == 0) {
+            notes.prepend("empty");
+            _session.noteEmpty(catalogue);
+        }
         if (!_session.isLoaded(catalogue)) notes.prepend("not read to the end");
         notes.removeAll({});
-        _table.add({name, number(count), notes.join("; ")});
+        _records.add({name, count, notes.join("; ")});
     }
 
-    QString lackingCards() const
+    /// What is asked for and was not loaded, by the reason.
+    [[nodiscard]] QString gapsIn(Catalogue catalogue) const
     {
-        std::set<std::uint64_t> lacking;
-        for (const ClassSlot& entry : slotsByIndex(_session.devices().curDeviceConfigs().slots))
-            for (const Lcd::s_InlineSubcard& card : entry.slot.subcards)
-                if (_session.cardName(_cards, card.moduleId).isEmpty()) lacking.insert(card.moduleId);
-        return lackingText(lacking);
-    }
-
-    template <class Numbers> static QString lackingText(const Numbers& lacking)
-    {
-        if (lacking.empty()) return {};
-        return "no file for " + listed(lacking, [](auto value) { return QString::number(value); });
+        const std::pair<Cause, const char*> causes[] = {{Cause::NoFile, "no file for "},
+                                                        {Cause::Refused, "refused: "},
+                                                        {Cause::NotRead, "not read: "},
+                                                        {Cause::OtherContent, "not in its file: "}};
+        QStringList notes;
+        for (const auto& [cause, label] : causes) {
+            QStringList ids;
+            for (const Gap& gap : _session.gaps())
+                if (gap.catalogue == catalogue && gap.cause == cause) ids.append(gap.id);
+            if (!ids.isEmpty()) notes.append(label + ids.join(", "));
+        }
+        return notes.join("; ");
     }
 
     /// The interface hands out no list of types or of resolutions, so they are asked for, connector by connector.
     void addConnectors()
     {
         std::set<int> known;
-        std::set<int> lacking;
         std::set<std::tuple<int, int, int>> resolutions;
         for (const Lcd::s_Subcard& card : _cards.subcards)
             for (const Lcd::s_SubcardConnector& connector : card.connectors.connectors) {
                 const int type = connector.type;
-                (_session.connectors().findEDIDInfo(type) ? known : lacking).insert(type);
+                if (_session.hasConnectorType(type)) known.insert(type);
                 for (const auto& offered :
                      _session.connectors().findConnectorResolutions(2, type, connector.interfaceType))
                     resolutions.insert({offered.width, offered.height, offered.interlaced});
             }
-        add("Connector types", Catalogue::Connectors, int(known.size()), lackingText(lacking));
+        add("Connector types", Catalogue::Connectors, int(known.size()), gapsIn(Catalogue::Connectors));
         add("Resolutions", Catalogue::Connectors, int(resolutions.size()),
             resolutions.empty() ? QString() : "different ones that the connectors offer");
     }
@@ -243,7 +230,7 @@ private:
         add("Function buttons", Catalogue::FunctionKeys, keys.findFNBtnMaxCount(),
             bindings == 0 ? QString() : QString("%1 with a factory binding").arg(bindings));
 
-        const Lcd::IKeyCheckConfig& checks = _session.keyChecks();
+        Lcd::IKeyCheckConfig& checks = _session.keyChecks();
         const std::pair<const char*, int> lists[] = {
             {"keyboard %1", checks.getKeyCheckList().size()},
             {"knobs %1", checks.getKnobKeyCheckList().size()},
@@ -271,26 +258,28 @@ private:
             keys == 0 ? QString() : QString("%1 keys").arg(keys));
     }
 
-    const Session& _session;
+    Session& _session;
     const Lcd::s_DCSSubcard _cards;
-    Table _table{{words("Catalogue"), numbers("Entries"), words("Note")}};
+    Records _records{{words("Catalogue"), numbers("Entries"), words("Note")}};
 };
 
 } // namespace
 
-bool runLoad(Session& session, const Options& /*options*/, Console& console)
+Answer runLoad(Session& session, const Options& /*options*/)
 {
     session.loadAll();
     const Lcd::s_Device device = session.devices().curDeviceConfigs();
-    console.out.heading(session.root());
-    tellDevice(session, console.out);
-    tellOtherDevices(session, console.out);
-    tellSlots(session, console.out);
-    tellFeatures(session, console.out);
-    tellScreens(device, console.out);
-    tellLayers(session, device, console.out);
-    Counts(session).tell(console.out);
-    return true;
+    Answer answer;
+    answer.json["root"] = session.root();
+    answer.show([&session](Page& page) { page.heading(session.root()); });
+    answer.add("Device", deviceFacts(session, device), "none");
+    answerOtherDevices(session, answer);
+    answer.add("Slots", slotRecords(session), "none");
+    answer.add("Features", featureRecords(session, device.feature));
+    answer.add("Screens", screenRecords(device), "none");
+    answer.add("Layers", layerRecords(session, device), "none");
+    answer.add("Catalogues", Counts(session).counted());
+    return answer;
 }
 
 } // namespace lcdhost

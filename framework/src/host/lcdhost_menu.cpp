@@ -4,27 +4,44 @@
 namespace lcdhost {
 namespace {
 
-void addItem(Table& table, const Lcd::s_MenuItem& item, const QString& lead, const QString& leadBelow)
+/// The tree as a table for a person, and as JSON: there the items stand one behind the other, each with its level,
+/// since a tree may be deeper than a reader of JSON goes.
+struct Tree {
+    Table table{{words("Key"), numbers("Order"), numbers("Type"), numbers("Widget"), numbers("Button")}};
+    QJsonArray items;
+};
+
+void addItem(Tree& tree, const Lcd::s_MenuItem& item, const QString& lead, const QString& leadBelow)
 {
-    table.add(
+    tree.table.add(
         {lead + item.key, number(item.order), number(item.type), number(item.comWidgetType), number(item.buttonType)});
+    tree.items.append(QJsonObject{{"key", item.key},
+                                  {"level", item.level},
+                                  {"order", item.order},
+                                  {"type", item.type},
+                                  {"widget", item.comWidgetType},
+                                  {"button", item.buttonType}});
     for (const auto& child : item.children) {
         const bool last = child == item.children.last();
-        addItem(table, *child, leadBelow + (last ? "`- " : "|- "), leadBelow + (last ? "   " : "|  "));
+        addItem(tree, *child, leadBelow + (last ? "`- " : "|- "), leadBelow + (last ? "   " : "|  "));
     }
 }
 
 } // namespace
 
-bool runMenu(Session& session, const Options& /*options*/, Console& console)
+Answer runMenu(Session& session, const Options& /*options*/)
 {
     session.load(Catalogue::Menu);
     const auto root = session.menu().rootMenuItem();
-    Table table({words("Key"), numbers("Order"), numbers("Type"), numbers("Widget"), numbers("Button")});
-    if (!root->key.isEmpty() || !root->children.isEmpty()) addItem(table, *root, {}, {});
-    console.out.heading("Menu");
-    table.print(console.out, "empty");
-    return true;
+    Tree tree;
+    if (!root->key.isEmpty() || !root->children.isEmpty()) addItem(tree, *root, {}, {});
+    Answer answer;
+    answer.json["menu"] = tree.items;
+    answer.show([table = tree.table](Page& page) {
+        page.heading("Menu");
+        table.print(page, "empty");
+    });
+    return answer;
 }
 
 } // namespace lcdhost

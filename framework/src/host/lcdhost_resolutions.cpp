@@ -1,10 +1,6 @@
 // The command that walks the road of one request: which resolutions, rates and timing does this connector offer?
 #include "lcdhost_commands.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 namespace lcdhost {
 namespace {
 
@@ -31,7 +27,7 @@ Offer ask(const Session& session, const Lcd::s_SubcardConnector& connector, cons
     const int type = connector.type;
     Lcd::IConnectorConfig& connectors = session.connectors();
     Session::takeWarnings();
-    offer.typeName = text(connectors.findConnectorTypeName(type));
+    offer.typeName = session.connectorName(type);
     offer.resolutions = connectors.findConnectorResolutions(connector.capacityMode, type, offer.mask);
     offer.defaultResolution = connectors.findConnectorDefaultResolution(connector.capacityMode, type, offer.mask);
     offer.rates = connectors.findConnectorRates(type, offer.mask);
@@ -51,11 +47,11 @@ QString joined(const std::vector<int>& values)
     return listed(values, [](int value) { return number(value); });
 }
 
-void tellRequest(const Session& session, const Options& options, const Offer& offer, Page& page)
+void tellRequest(const Options& options, const QString& cardName, const Offer& offer, Page& page)
 {
     page.heading(QString("Card %1, position %2").arg(options.card).arg(options.position));
     Table facts({words(), words()});
-    facts.add({"Card", session.cardName(*session.cards().subcardConfig(), std::uint64_t(options.card))});
+    facts.add({"Card", cardName});
     facts.add({"Connector type", QString("%1  %2").arg(offer.connector.type).arg(offer.typeName)});
     facts.add({"Capacity mode", number(offer.connector.capacityMode)});
     facts.add({"Interface mask", number(offer.mask)});
@@ -116,16 +112,6 @@ void tellTiming(const Lcd::s_PreSetTimingInterface& timing, Page& page)
     facts.print(page);
 }
 
-QJsonArray array(const std::vector<int>& values)
-{
-    QJsonArray items;
-    for (const int value : values) items.append(value);
-    return items;
-}
-
-/// The decimal number that the file meant; the nearest single-precision one has a tail of digits.
-double decimal(float value) { return QString::number(double(value), 'g', 6).toDouble(); }
-
 QJsonObject object(const Lcd::s_PresetHorizontal& direction)
 {
     const auto limits = [](const Lcd::s_PresetHorizontal::s_TimingItem& item) {
@@ -137,7 +123,7 @@ QJsonObject object(const Lcd::s_PresetHorizontal& direction)
             {"frontPorch", limits(direction.frontPorch)},
             {"sync", limits(direction.sync)},
             {"total", limits(direction.totalTime)},
-            {"syncPolarity", array(direction.syncPolarityValues)}};
+            {"syncPolarity", jsonArray(direction.syncPolarityValues)}};
 }
 
 QJsonValue defaultResolution(const Offer& offer)
@@ -155,7 +141,7 @@ QJsonValue rates(const Offer& offer)
     if (!offer.hasTiming()) return QJsonValue::Null;
     return QJsonObject{{"default", offer.rates.refresh.value},
                        {"coefficient", decimal(offer.rates.coefficient)},
-                       {"values", array(offer.rates.refreshValues)}};
+                       {"values", jsonArray(offer.rates.refreshValues)}};
 }
 
 QJsonValue timing(const Offer& offer)
@@ -163,60 +149,64 @@ QJsonValue timing(const Offer& offer)
     if (!offer.hasTiming()) return QJsonValue::Null;
     const Lcd::s_PreSetTimingInterface& found = offer.timing;
     return QJsonObject{{"interfaceType", found.type},
-                       {"interlaced", array(found.interlacedValues)},
+                       {"interlaced", jsonArray(found.interlacedValues)},
                        {"bandwidth", QJsonObject{{"min", found.bandWidth.min}, {"max", found.bandWidth.max}}},
                        {"horizontal", object(found.horizontal)},
                        {"vertical", object(found.vertical)}};
 }
 
-QByteArray json(const Options& options, const Offer& offer)
+QJsonObject json(const Options& options, const Offer& offer)
 {
-    QJsonArray resolutions;
-    for (const auto& resolution : offer.resolutions)
-        resolutions.append(QJsonObject{
-            {"width", resolution.width}, {"height", resolution.height}, {"interlaced", resolution.interlaced}});
-    const QJsonObject all{{"card", options.card},
-                          {"position", options.position},
-                          {"connectorType", offer.connector.type},
-                          {"connectorTypeName", offer.typeName},
-                          {"capacityMode", offer.connector.capacityMode},
-                          {"interfaceMask", offer.mask},
-                          {"resolutions", resolutions},
-                          {"defaultResolution", defaultResolution(offer)},
-                          {"refreshRates", rates(offer)},
-                          {"timing", timing(offer)},
-                          {"notes", QJsonArray::fromStringList(offer.notes)}};
-    return QJsonDocument(all).toJson();
+    const auto resolution = [](const Lcd::s_resolutionResolutionRatio& ratio) {
+        return QJsonObject{{"width", ratio.width}, {"height", ratio.height}, {"interlaced", ratio.interlaced}};
+    };
+    return {{"card", options.card},
+            {"position", options.position},
+            {"connectorType", offer.connector.type},
+            {"connectorTypeName", offer.typeName},
+            {"capacityMode", offer.connector.capacityMode},
+            {"interfaceMask", offer.mask},
+            {"resolutions", jsonArray(offer.resolutions, resolution)},
+            {"defaultResolution", defaultResolution(offer)},
+            {"refreshRates", rates(offer)},
+            {"timing", timing(offer)},
+            {"notes", QJsonArray::fromStringList(offer.notes)}};
+}
+
+void tell(const Offer& offer, Page& page)
+{
+    tellResolutions(offer, page);
+    tellRates(offer, page);
+    page.heading("Preset timing");
+    if (offer.hasTiming())
+        tellTiming(offer.timing, page);
+    else
+        page.line("  none", Style::Faint);
+    if (!offer.notes.isEmpty()) page.heading("Notes");
+    for (const QString& note : offer.notes) page.line("  " + note);
 }
 
 } // namespace
 
-bool runResolutions(Session& session, const Options& options, Console& console)
+Answer runResolutions(Session& session, const Options& options)
 {
     for (const Catalogue needed : {Catalogue::Devices, Catalogue::Cards, Catalogue::Connectors}) session.load(needed);
+    Answer answer;
     const auto connector = session.cards().findConnector(options.card, options.position);
     if (!connector) {
-        console.complaints.line(QString("No card %1 in the catalogue has a connector at position %2.")
-                                    .arg(options.card)
-                                    .arg(options.position));
-        return false;
+        answer.error = QString("No card %1 in the catalogue has a connector at position %2.")
+                           .arg(options.card)
+                           .arg(options.position);
+        return answer;
     }
     const Offer offer = ask(session, *connector, options);
-    if (options.json) {
-        for (const QByteArray& line : json(options, offer).trimmed().split('\n')) console.out.line(line);
-        return true;
-    }
-    tellRequest(session, options, offer, console.out);
-    tellResolutions(offer, console.out);
-    tellRates(offer, console.out);
-    console.out.heading("Preset timing");
-    if (offer.hasTiming())
-        tellTiming(offer.timing, console.out);
-    else
-        console.out.line("  none", Style::Faint);
-    if (!offer.notes.isEmpty()) console.out.heading("Notes");
-    for (const QString& note : offer.notes) console.out.line("  " + note);
-    return true;
+    const QString cardName = session.cardName(*session.cards().subcardConfig(), std::uint64_t(options.card));
+    answer.json = json(options, offer);
+    answer.show([options, cardName, offer](Page& page) {
+        tellRequest(options, cardName, offer, page);
+        tell(offer, page);
+    });
+    return answer;
 }
 
 } // namespace lcdhost

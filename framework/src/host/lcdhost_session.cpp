@@ -1,5 +1,9 @@
 #include "lcdhost_session.h"
 
+#include "common/access.h"
+#include "common/nearest.h"
+#include "lcdhost_names.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -7,6 +11,7 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <tuple>
 
@@ -46,9 +51,19 @@ QStringList reports(const Folder& folder, void* component, const QString& path, 
     return texts;
 }
 
+/// An object of a component beside the host's own.
+using Fresh = std::unique_ptr<void, std::function<void(void*)>>;
+
+Fresh freshComponent(const kpmhost::Host& host, const Folder& folder)
+{
+    const kpm::ComponentInfo& component = *host.componentClass(folder.component);
+    return {component.creator(), component.deletor};
+}
+
 } // namespace
 
-Session::Session(QString root, const QString& language) : _root(std::move(root)), _english(language == "en")
+Session::Session(QString root, const QString& language)
+    : _root(std::move(root)), _english(language == "en"), _devices(deviceFolders(_root))
 {
     QCoreApplication::instance()->setProperty("lcd_locale", QVariant(language));
     qInstallMessageHandler(keepWarning);
@@ -68,7 +83,7 @@ bool Session::open(const QString& pluginPath)
     return _error.isEmpty();
 }
 
-bool Session::has(Catalogue catalogue) const { return QFileInfo(pathOf(_root, folderOf(catalogue))).isDir(); }
+bool Session::has(Catalogue catalogue) const { return QFileInfo::exists(pathOf(_root, folderOf(catalogue))); }
 
 QStringList Session::takeWarnings() { return std::exchange(warnings(), {}); }
 
@@ -77,18 +92,80 @@ void Session::loadAll()
     for (const Folder& folder : folders()) load(folder.catalogue);
 }
 
+bool Session::chooseDevice(const QString& name)
+{
+    const auto isChosen = [&](const QString& path) { return QFileInfo(path).fileName() == name; };
+    const auto isCalled = [&](const QString& path) { return nameOfDevice(path) == name; };
+    auto chosen = std::find_if(_devices.begin(), _devices.end(), isChosen);
+    if (chosen == _devices.end()) chosen = std::find_if(_devices.begin(), _devices.end(), isCalled);
+    if (chosen != _devices.end()) {
+        std::rotate(_devices.begin(), chosen, chosen + 1);
+        return true;
+    }
+    QStringList names;
+    for (const QString& path : _devices) names += {QFileInfo(path).fileName(), nameOfDevice(path)};
+    const QString meant = nearest(name, names);
+    _error = "There is no device '" + name + "'.";
+    if (!meant.isEmpty()) _error += " Did you mean '" + meant + "'?";
+    return false;
+}
+
+/// The name that the device's files give it, found with an object of its own.
+QString Session::nameOfDevice(const QString& path) const
+{
+    if (!whyNoFolder(path).isEmpty()) return {};
+    const Folder& folder = folderOf(Catalogue::Devices);
+    const Fresh fresh = freshComponent(_host, folder);
+    bool good = false;
+    reports(folder, fresh.get(), path, good);
+    const auto& devices = static_cast<Lcd::IDeviceConfig*>(fresh.get())->DeviceConfigs();
+    return devices.isEmpty() ? QString() : QString::fromStdString(devices.first().feature.name);
+}
+
+/// Why nothing in the folder would be read, because of what was read before; empty when something may be.
+QString Session::whyNotAskedFor(Catalogue catalogue) const
+{
+    if (catalogue == Catalogue::Cards && devices().DeviceConfigs().isEmpty())
+        return "no device was loaded, so no card file is read";
+    if (catalogue == Catalogue::Connectors && cards().subcardConfig()->subcards.empty())
+        return "no card was loaded, so no connector file is read";
+    return {};
+}
+
 void Session::load(Catalogue catalogue)
 {
     const Folder& folder = folderOf(catalogue);
     const QString path = pathOf(_root, folder);
     if (!has(catalogue)) return note(path, QStringList{"not there"});
+    const QString closed = whyNoFolder(path);
+    if (!closed.isEmpty()) return note(path, {closed});
     if (catalogue != Catalogue::Devices) return loadFolder(folder, path);
-    const QStringList devices = deviceFolders(_root);
-    for (const QString& device : devices) loadFolder(folder, device);
-    if (devices.isEmpty()) note(path, {"holds no device folder"});
+    for (const QString& device : _devices) loadFolder(folder, device);
+    if (_devices.isEmpty()) note(path, {"holds no device folder"});
 }
 
 void Session::loadFolder(const Folder& folder, const QString& path)
+{
+    for (const QString& place : placesOf(folder, path)) {
+        const QString closed = whyNoFolder(place);
+        if (!closed.isEmpty()) note(place, {closed});
+        if (!closed.isEmpty() && place == path) return;
+    }
+    const QString unasked = whyNotAskedFor(folder.catalogue);
+    if (!unasked.isEmpty()) return note(path, {unasked});
+    const QString file = folder.file == nullptr ? QString() : QDir(path).filePath(folder.file);
+    const QString closed = QFileInfo::exists(file) ? whyNoFile(file) : QString();
+    if (!closed.isEmpty()) return note(file, {closed});
+    if (folder.file == nullptr && filesOf(folder, path).isEmpty()) note(path, {"holds no *.xml file"});
+
+    read(folder, path);
+    if (folder.catalogue == Catalogue::Devices) checkDevice(path);
+    if (folder.catalogue == Catalogue::Cards) checkCards(path);
+    if (folder.catalogue == Catalogue::Connectors) checkConnectors(path);
+    if (folder.catalogue == Catalogue::Settings && isLoaded(Catalogue::Settings)) checkSettings(file);
+}
+
+void Session::read(const Folder& folder, const QString& path)
 {
     bool good = false;
     const QStringList texts = reports(folder, _host.component(folder.component), path, good);
@@ -108,7 +185,9 @@ void Session::diagnose(const Folder& folder, const QString& path, QStringList un
     for (const QString& file : filesOf(folder, path)) {
         QStringList texts = reportsOfFile(folder, path, file);
         for (const QString& text : general) texts.removeOne(text);
-        note(file, texts);
+        // Of a file that can't be opened the library names the folder, and gives no reason.
+        const QString closed = whyNoFile(file);
+        note(file, closed.isEmpty() || texts.isEmpty() ? texts : QStringList{closed});
         for (const QString& text : texts) unexplained.removeAll(text);
     }
     note(path, unexplained);
@@ -121,8 +200,7 @@ QStringList Session::reportsOfFile(const Folder& folder, const QString& path, co
     const QString link = alone.filePath(info.fileName());
     if (!alone.isValid() || (!file.isEmpty() && !QFile::link(info.absoluteFilePath(), link))) return {};
 
-    const kpm::ComponentInfo& component = *_host.componentClass(folder.component);
-    const std::unique_ptr<void, std::function<void(void*)>> fresh(component.creator(), component.deletor);
+    const Fresh fresh = freshComponent(_host, folder);
     bool good = false;
     QStringList texts = reports(folder, fresh.get(), alone.path(), good);
     if (!file.isEmpty()) texts.replaceInStrings(link, file);
@@ -154,6 +232,25 @@ QString Session::cardName(const Lcd::s_DCSSubcard& cards, std::uint64_t model) c
     for (const Lcd::s_Subcard& card : cards.subcards)
         if (std::uint64_t(card.modelId) == model) return inLanguage(card.name.en, card.name.zhCN);
     return {};
+}
+
+bool Session::hasCard(std::uint64_t model) const
+{
+    const auto all = cards().subcardConfig();
+    return std::any_of(all->subcards.begin(), all->subcards.end(),
+                       [model](const Lcd::s_Subcard& card) { return std::uint64_t(card.modelId) == model; });
+}
+
+bool Session::hasConnectorType(int type) const { return connectors().findEDIDInfo(type) != nullptr; }
+
+QString Session::connectorName(int type) const
+{
+    const QString chinese = QString::fromStdString(connectors().findConnectorTypeName(type));
+    if (!_english || !hasConnectorType(type)) return chinese;
+    const Folder& folder = folderOf(Catalogue::Connectors);
+    if (_englishNames.empty()) _englishNames = englishConnectorNames(filesOf(folder, pathOf(_root, folder)));
+    const auto found = _englishNames.find(type);
+    return found == _englishNames.end() || found->second.isEmpty() ? chinese : found->second;
 }
 
 } // namespace lcdhost

@@ -1,19 +1,26 @@
 // The command that shows the panel's settings: what the factory set, and on demand what the user set.
+#include "lcdhost_settings.h"
+
 #include "lcdhost_commands.h"
 
 #include <QUrl>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
-#include <variant>
 
 namespace lcdhost {
 namespace {
 
-/// A name and the getter of one value.
+/// A title and the getter of one value.
 template <class Config> struct Value {
-    const char* name;
-    std::variant<int (Config::*)(), QString (Config::*)()> getter;
+    template <class Getter>
+    Value(const char* name, Getter getter)
+        : title(name), read([getter](Config& config) { return QJsonValue((config.*getter)()); })
+    {}
+
+    const char* title;
+    std::function<QJsonValue(Config&)> read;
 };
 
 using Factory = Lcd::ILcdConfig;
@@ -67,37 +74,34 @@ const Value<User> USER[] = {
 };
 // clang-format on
 
-template <class Config> QString read(Config& config, const Value<Config>& value)
+template <class Config, std::size_t COUNT> Facts factsOf(Config& config, const Value<Config> (&values)[COUNT])
 {
-    if (const auto* const getter = std::get_if<int (Config::*)()>(&value.getter)) return number((config.**getter)());
-    const QString text = (config.*std::get<QString (Config::*)()>(value.getter))();
-    return text.isEmpty() ? "-" : text;
+    Facts facts;
+    for (const Value<Config>& value : values) {
+        const QJsonValue read = value.read(config);
+        facts.add(value.title, read == QJsonValue("") ? Cell(read, "-") : Cell(read));
+    }
+    return facts;
 }
 
-void addKey(Table& table, int index, const QString& value)
-{
-    table.add({QString("Function button %1").arg(index), value});
-}
+QString functionButton(int index) { return QString("Function button %1").arg(index); }
 
-void tellFactory(const Session& session, Page& page, int functionKeys)
+void answerFactory(const Session& session, Answer& answer, int functionKeys)
 {
     Factory& config = session.settings();
-    Table table({words("Setting"), words("Value")});
-    for (const auto& value : FACTORY) table.add({value.name, read(config, value)});
+    Facts facts = factsOf(config, FACTORY);
     const auto [offColour, brightness] = config.getOffLightColorValue();
-    table.add({"Off light, colour", number(offColour)});
-    table.add({"Off light, brightness", number(brightness)});
-    table.add({"Connector types not in the input list",
-               listed(config.getInputListNoSupportConnectorType(), [](int type) { return number(type); })});
-    for (int index = 0; index < functionKeys; ++index) addKey(table, index, number(config.getFnSettingValue(index)));
-    page.heading("Factory settings");
-    table.print(page);
+    facts.add("Off light, colour", offColour);
+    facts.add("Off light, brightness", brightness);
+    facts.add("Connector types not in the input list", jsonArray(config.getInputListNoSupportConnectorType()));
+    for (int index = 0; index < functionKeys; ++index)
+        facts.add(functionButton(index), config.getFnSettingValue(index));
+    answer.add("Factory settings", facts);
 
-    page.heading("Programme edit status");
-    Table statuses({numbers("Work mode"), numbers("Factory"), numbers("Current")});
+    Records statuses({numbers("Work mode"), numbers("Factory"), numbers("Current")});
     for (const auto& [workMode, status] : config.getPgmEditStatus())
-        statuses.add({number(workMode), number(status), number(config.getCurrentPgmEditStatus(workMode))});
-    statuses.print(page, "none");
+        statuses.add({workMode, status, config.getCurrentPgmEditStatus(workMode)});
+    answer.add("Programme edit status", statuses, "none");
 }
 
 /// A camera setting as it may be shown: no password reaches a terminal or a log.
@@ -109,51 +113,61 @@ QString shownCamera(int entry, const QString& value)
     return url.password().isEmpty() ? value : url.toString(QUrl::RemovePassword);
 }
 
-void tellUser(const Session& session, Page& page, int functionKeys)
+void answerUser(const Session& session, Answer& answer, int functionKeys)
 {
     User& config = session.userSettings();
-    Table table({words("Setting"), words("Value")});
-    for (const auto& value : USER) table.add({value.name, read(config, value)});
+    Facts facts = factsOf(config, USER);
     const auto [min, max] = config.getTBarCalibration();
-    table.add({"T-bar calibration", QString("%1 to %2").arg(min).arg(max)});
+    facts.add("T-bar calibration", span(min, max));
     const QStringList camera{"address", "main stream", "sub stream", "manufacturer", "password", "port", "user"};
     for (const auto& [entry, value] : config.getRTSPSettingPara())
-        table.add({"Camera " + camera.value(entry), shownCamera(entry, value)});
+        facts.add("Camera " + camera.value(entry), shownCamera(entry, value));
     for (int index = 0; index < functionKeys; ++index)
         if (config.hasFnSettingValue(index))
-            addKey(table, index,
-                   QString("%1, target %2 of type %3")
-                       .arg(config.getFnSettingValue(index))
-                       .arg(config.getFnSettingTargetValue(index))
-                       .arg(config.getFnSettingTargetTypeValue(index)));
+            facts.add(functionButton(index), QString("%1, target %2 of type %3")
+                                                 .arg(config.getFnSettingValue(index))
+                                                 .arg(config.getFnSettingTargetValue(index))
+                                                 .arg(config.getFnSettingTargetTypeValue(index)));
     for (const Lcd::s_SourceCustomSort& sort : config.getSourceCustomSort())
-        table.add({QString("Source order, %1_%2").arg(sort.first).arg(sort.second), number(sort.value)});
-    page.heading("User settings");
-    table.print(page);
+        facts.add(QString("Source order, %1_%2").arg(sort.first).arg(sort.second), sort.value);
+    answer.add("User settings", facts);
 }
 
 } // namespace
 
 int countSettings() { return int(std::size(FACTORY)); }
 
-bool runSettings(Session& session, const Options& options, Console& console)
+bool hasAnySetting(Factory& config)
+{
+    const auto isSet = [&config](const Value<Factory>& value) {
+        const QJsonValue read = value.read(config);
+        return read != QJsonValue(0) && read != QJsonValue("");
+    };
+    return !config.getPgmEditStatus().empty() || std::any_of(std::begin(FACTORY), std::end(FACTORY), isSet);
+}
+
+Answer runSettings(Session& session, const Options& options)
 {
     session.load(Catalogue::Settings);
     // The function keys tell how many bindings there are to ask for; without them it is the usual number.
     if (session.has(Catalogue::FunctionKeys)) session.load(Catalogue::FunctionKeys);
     const int told = session.isLoaded(Catalogue::FunctionKeys) ? session.functionKeys().findFNBtnMaxCount() : 6;
     const int keys = std::min(told, 256);
+    Answer answer;
     if (session.isLoaded(Catalogue::Settings))
-        tellFactory(session, console.out, keys);
+        answerFactory(session, answer, keys);
     else
-        console.out.line("There are no factory settings.");
-    if (!options.userSettings) return true;
+        answer.show([](Page& page) { page.line("There are no factory settings."); });
+    if (!options.userSettings) return answer;
 
     Session::takeWarnings();
     const bool opened = session.userSettings().readConfig();
-    for (const QString& warning : Session::takeWarnings()) console.complaints.line(warning);
-    if (opened) tellUser(session, console.out, keys);
-    return opened;
+    answer.warnings = Session::takeWarnings();
+    if (opened)
+        answerUser(session, answer, keys);
+    else
+        answer.error = "The user's settings can't be opened.";
+    return answer;
 }
 
 } // namespace lcdhost

@@ -11,6 +11,7 @@
 #include "subcardconfig.h"
 
 #include <kpmsdk/plugin.h>
+#include <lcdmainconfig/version.h>
 
 namespace {
 
@@ -62,8 +63,8 @@ kpm::ComponentInfo* const lcdmainconfigimpl_kpm_componentInfoTable[10] = {
 
 __attribute__((visibility("default"))) const kpm::PluginInfo* pluginfo()
 {
-    static constexpr kpm::PluginInfo pinfo{"0.1", lcdmainconfigimpl_kpm_componentInfoTable, Names::PLUGIN_NAME, "1.0.0",
-                                           PLUGIN_METADATA};
+    static constexpr kpm::PluginInfo pinfo{"0.1", lcdmainconfigimpl_kpm_componentInfoTable, Names::PLUGIN_NAME,
+                                           LCD::MainConfig::constants::PLUGIN_VERSION, PLUGIN_METADATA};
     return &pinfo;
 }
 

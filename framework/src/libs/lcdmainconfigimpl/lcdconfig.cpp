@@ -74,7 +74,7 @@ class LcdConfig::Impl : public SettingsStore {
 public:
     [[nodiscard]] int statusOf(const char* array, int workMode) const
     {
-        return readOrWarn(-1, [&](QSettings& setting) {
+        return readOrWarn(-1, [&](IniFile& setting) {
             const SettingsArray modes(setting, array);
             const int row = rowOfWorkMode(modes, workMode);
             return row < 0 ? -1 : modes.number(row, STATUS);
@@ -138,21 +138,21 @@ void LcdConfig::setLanguage(const QString& language)        { _impl->set(LANGUAG
 void LcdConfig::setLightBreathSupportValue(int value)       { _impl->set(LIGHT_BREATH_SUPPORT, value); }
 void LcdConfig::setLightColorValue(int value)               { _impl->set(LIGHT_COLOR,          value); }
 void LcdConfig::setAspectRatioValue(int value)              { _impl->set(ASPECT_RATIO,         value); }
-void LcdConfig::setFnSettingValue(int index, int value)     { _impl->setNow(fnKey(index),      value); }
+void LcdConfig::setFnSettingValue(int index, int value)     { _impl->set(fnKey(index),       value); }
 // clang-format on
 
 std::pair<int, int> LcdConfig::getOffLightColorValue()
 {
-    return _impl->read(std::pair{7, 25}, [](const QSettings& setting) {
-        return std::pair{setting.value(OFF_LIGHT_COLOR).toInt(), setting.value(OFF_LIGHT_BRIGHTNESS).toInt()};
-    });
+    const std::vector<int> numbers = _impl->numbers({{OFF_LIGHT_COLOR, 7}, {OFF_LIGHT_BRIGHTNESS, 25}});
+    return {numbers[0], numbers[1]};
 }
 
 void LcdConfig::setFnBtnMaxCount(int count) { _impl->fnBtnMaxCount = count; }
 
 void LcdConfig::setALLFnSettingValue(int value)
 {
-    for (int index = 0; index < _impl->fnBtnMaxCount; ++index) setFnSettingValue(index, value);
+    const int count = boundedFnButtons(_impl->fnBtnMaxCount);
+    for (int index = 0; index < count; ++index) setFnSettingValue(index, value);
 }
 
 int LcdConfig::getPgmEditStatusOnWorkMode(int workMode) { return _impl->statusOf(PGM_EDIT_FACTORY, workMode); }
@@ -161,7 +161,7 @@ int LcdConfig::getCurrentPgmEditStatus(int workMode) { return _impl->statusOf(PG
 
 std::map<int, int> LcdConfig::getPgmEditStatus()
 {
-    return _impl->readOrWarn(std::map<int, int>{}, [](QSettings& setting) {
+    return _impl->readOrWarn(std::map<int, int>{}, [](IniFile& setting) {
         const SettingsArray factory(setting, PGM_EDIT_FACTORY);
         std::map<int, int> statuses;
         for (int row = 0; row < factory.size(); ++row)
@@ -172,7 +172,7 @@ std::map<int, int> LcdConfig::getPgmEditStatus()
 
 void LcdConfig::setCurrentPgmEditStatus(int workMode, int status)
 {
-    const auto use = [&](QSettings& setting) {
+    const auto use = [&](IniFile& setting) {
         SettingsArray current(setting, PGM_EDIT_CURRENT);
         const int row = rowOfWorkMode(current, workMode);
         if (row >= 0) current.set(row, STATUS, status);
@@ -182,7 +182,7 @@ void LcdConfig::setCurrentPgmEditStatus(int workMode, int status)
 
 void LcdConfig::setCurrentPgmEditDefaultStatus()
 {
-    const auto use = [](QSettings& setting) {
+    const auto use = [](IniFile& setting) {
         const SettingsArray factory(setting, PGM_EDIT_FACTORY);
         SettingsArray current(setting, PGM_EDIT_CURRENT);
         const int rows = factory.size();
@@ -194,7 +194,7 @@ void LcdConfig::setCurrentPgmEditDefaultStatus()
 
 std::vector<int> LcdConfig::getInputListNoSupportConnectorType()
 {
-    return _impl->readOrWarn(std::vector<int>{}, [](QSettings& setting) {
+    return _impl->readOrWarn(std::vector<int>{}, [](IniFile& setting) {
         const SettingsArray leftOut(setting, INPUT_LIST_LEFT_OUT);
         const int rows = leftOut.size();
         std::vector<int> types(static_cast<std::size_t>(rows));
@@ -205,7 +205,7 @@ std::vector<int> LcdConfig::getInputListNoSupportConnectorType()
 
 bool LcdConfig::isSourceTypeUseGeneralName(int interfaceType, int connectorType)
 {
-    return _impl->readOrWarn(false, [&](QSettings& setting) {
+    return _impl->readOrWarn(false, [&](IniFile& setting) {
         const SettingsArray sources(setting, GENERAL_NAME_SOURCES);
         return sources.firstRow([&](int row) {
             return sources.number(row, INTERFACE_TYPE) == interfaceType &&

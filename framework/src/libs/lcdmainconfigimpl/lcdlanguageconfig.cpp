@@ -1,10 +1,10 @@
 #include "lcdlanguageconfig.h"
 
+#include "settings/filedescriptor.h"
 #include "settings/settingsstore.h"
 
 #include <QDebug>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <atomic>
@@ -61,7 +61,10 @@ bool createFile(const QString& path)
         qWarning().noquote() << "LcdLanguageConfig: create ini dir failed:" << folder;
         return false;
     }
-    if (!QFile(path).open(QIODevice::WriteOnly)) {
+    // Neither does it wait for the other end of a pipe, nor cut off what another process has just written there.
+    const FileDescriptor file(path, O_WRONLY | O_CREAT, 0666);
+    const auto made = file.isOpen() ? file.status() : std::nullopt;
+    if (!made || !S_ISREG(made->st_mode)) {
         qWarning().noquote() << "LcdLanguageConfig: create ini failed:" << path;
         return false;
     }
@@ -117,9 +120,9 @@ void LcdLanguageConfig::setScreenLight(int value)                     { _impl->s
 void LcdLanguageConfig::setKnobTimeOut(int value)                     { _impl->set(KNOB_TIME_OUT,      value); }
 void LcdLanguageConfig::setBackExitMVRTimeOut(int value)              { _impl->set(BACK_EXIT_TIME_OUT, value); }
 void LcdLanguageConfig::setTBarTolerance(const int& tolerance)        { _impl->set(T_BAR_TOLERANCE,    tolerance); }
-void LcdLanguageConfig::setFnSettingValue(int index, int value)                 { _impl->setNow(fnKey(FN_VALUE, index),       value); }
-void LcdLanguageConfig::setFnSettingTargetValue(int index, int target)          { _impl->setNow(fnKey(FN_TARGET, index),      target); }
-void LcdLanguageConfig::setFnSettingTargetTypeValue(int index, int targetType)  { _impl->setNow(fnKey(FN_TARGET_TYPE, index), targetType); }
+void LcdLanguageConfig::setFnSettingValue(int index, int value)                 { _impl->set(fnKey(FN_VALUE, index),       value); }
+void LcdLanguageConfig::setFnSettingTargetValue(int index, int target)          { _impl->set(fnKey(FN_TARGET, index),      target); }
+void LcdLanguageConfig::setFnSettingTargetTypeValue(int index, int targetType)  { _impl->set(fnKey(FN_TARGET_TYPE, index), targetType); }
 // clang-format on
 
 int LcdLanguageConfig::getBackExitMVRTimeOut()
@@ -138,7 +141,7 @@ std::pair<int, int> LcdLanguageConfig::getTBarCalibration()
 
 void LcdLanguageConfig::setTBarCalibration(const std::pair<int, int>& calibration)
 {
-    const auto use = [&](QSettings& setting) {
+    const auto use = [&](IniFile& setting) {
         setting.setValue(T_BAR_CALIBRATION_MIN, calibration.first);
         setting.setValue(T_BAR_CALIBRATION_MAX, calibration.second);
     };
@@ -161,14 +164,15 @@ std::vector<std::pair<int, QString>> LcdLanguageConfig::getRTSPSettingPara()
 
 bool LcdLanguageConfig::hasFnSettingValue(int index)
 {
-    return _impl->read(false, [&](const QSettings& setting) { return setting.contains(fnKey(FN_VALUE, index)); });
+    return _impl->read(false, [&](IniFile& setting) { return setting.contains(fnKey(FN_VALUE, index)); });
 }
 
 void LcdLanguageConfig::setFnBtnMaxCount(int count) { _impl->fnBtnMaxCount = count; }
 
 void LcdLanguageConfig::setALLFnSettingValue(int value)
 {
-    for (int index = 0; index < _impl->fnBtnMaxCount; ++index) setFnSettingValue(index, value);
+    const int count = boundedFnButtons(_impl->fnBtnMaxCount);
+    for (int index = 0; index < count; ++index) setFnSettingValue(index, value);
 }
 
 // The custom sort and the clearing of sections write the file at once and leave its way to the storage to the operating
@@ -176,8 +180,12 @@ void LcdLanguageConfig::setALLFnSettingValue(int value)
 
 bool LcdLanguageConfig::hasSourceCustomSort()
 {
-    return _impl->read(false,
-                       [](const QSettings& setting) { return setting.childGroups().contains(SOURCE_CUSTOM_SORT); });
+    return _impl->read(false, [](IniFile& setting) {
+        const IniEntries entries = setting.entries();
+        const QString group = SOURCE_CUSTOM_SORT + QString('/');
+        const auto first = entries.lowerBound(group);
+        return first != entries.end() && first.key().startsWith(group);
+    });
 }
 
 void LcdLanguageConfig::setSourceCustomSort(const QString& name, int value)
@@ -185,30 +193,30 @@ void LcdLanguageConfig::setSourceCustomSort(const QString& name, int value)
     _impl->change([&](IniFile& setting) {
         // QSettings refuses an empty key; under its section it would pass for the section's own name.
         setting.setValue(name.isEmpty() ? name : SOURCE_CUSTOM_SORT + ('/' + name), value);
-        setting.write();
     });
 }
 
 std::vector<s_SourceCustomSort> LcdLanguageConfig::getSourceCustomSort()
 {
-    return _impl->read(std::vector<s_SourceCustomSort>{}, [](IniFile& setting) {
-        std::vector<s_SourceCustomSort> sorts;
-        for (const QString& key : setting.allKeys()) {
-            const QStringList path = key.split('/');
+    auto sorts = _impl->read(std::vector<s_SourceCustomSort>{}, [](IniFile& setting) {
+        std::vector<s_SourceCustomSort> found;
+        const IniEntries entries = setting.entries();
+        for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+            const QStringList path = entry.key().split('/');
             const QStringList parts = path.last().split('_');
             if (path.size() == 2 && path.first() == SOURCE_CUSTOM_SORT && parts.size() == 2)
-                sorts.push_back({parts[0].toInt(), parts[1].toInt(), setting.value(key).toInt()});
+                found.push_back({parts[0].toInt(), parts[1].toInt(), entry->toInt()});
         }
-        setting.write();
-        return sorts;
+        return found;
     });
+    _impl->write();
+    return sorts;
 }
 
 void LcdLanguageConfig::removeGroups(const QStringList& groups)
 {
     _impl->changeUnlocked([&](IniFile& setting) {
         for (const QString& group : groups) setting.remove(group);
-        setting.write();
     });
 }
 

@@ -1,12 +1,13 @@
 // What the card catalogue answers. Several cards may have one model, and the queries differ in what they make of that;
-// the word at the head of each search tells:
+// the words of each search tell:
 //   firstCard(model)          the first card alone, and below it the first entry at every level, with no second try;
-//   firstOf(cardsOf(model)..) all cards, all entries at every level, the first hit;
-//   lastOf(cardsOf(model)..)  the same entries, the last hit.
+//   cardsOf(model)...first()  all cards, all entries at every level, the first hit;
+//   cardsOf(model)...last()   the same entries, the last hit.
 #include "search.h"
 #include "subcardconfig_impl.h"
 
-#include <ranges>
+#include <algorithm>
+#include <type_traits>
 
 namespace LCD::MainConfigImpl {
 namespace {
@@ -17,42 +18,94 @@ constexpr int HPD_INTERFACE = 2;
 
 // --- The words
 
-/// All entries of the lists that the elements before it have, in order.
-template <class Key> auto each(Key list)
+template <class Entry, class Show> class Entries;
+
+template <class Entry, class Show> Entries<Entry, Show> entries(Show show) { return Entries<Entry, Show>(show); }
+
+/// Entries in their order, wherever they stand. `Show` gives one after another to a function, until that says true.
+template <class Entry, class Show> class Entries {
+public:
+    explicit Entries(Show show) : _show(show) {}
+
+    /// All entries of a list that these have.
+    template <class List> auto each(List list) const
+    {
+        using Inner = std::remove_cvref_t<decltype(std::invoke(list, std::declval<const Entry&>()).front())>;
+        return entries<Inner>([show = _show, list](const auto& look) {
+            return show([&](const Entry& owner) {
+                const auto& inner = std::invoke(list, owner);
+                return std::any_of(inner.begin(), inner.end(), look);
+            });
+        });
+    }
+
+    /// Only those for which the function says true.
+    template <class Test> auto where(Test test) const
+    {
+        return entries<Entry>([show = _show, test](const auto& look) {
+            return show([&](const Entry& entry) { return test(entry) && look(entry); });
+        });
+    }
+
+    /// Only those whose key equals the number.
+    template <class Key> auto having(Key key, int wanted) const
+    {
+        return where([key, wanted](const Entry& entry) { return std::invoke(key, entry) == wanted; });
+    }
+
+    /// The first entry, or null.
+    const Entry* first() const
+    {
+        const Entry* hit = nullptr;
+        _show([&hit](const Entry& entry) {
+            hit = &entry;
+            return true;
+        });
+        return hit;
+    }
+
+    /// The last entry, or null.
+    const Entry* last() const
+    {
+        const Entry* hit = nullptr;
+        _show([&hit](const Entry& entry) {
+            hit = &entry;
+            return false;
+        });
+        return hit;
+    }
+
+    int count() const
+    {
+        int all = 0;
+        _show([&all](const Entry& /*entry*/) {
+            ++all;
+            return false;
+        });
+        return all;
+    }
+
+private:
+    Show _show;
+};
+
+template <class Entry> auto allOf(const std::vector<Entry>& list)
 {
-    return std::views::transform([list](const auto& owner) -> const auto& { return std::invoke(list, owner); }) |
-           std::views::join;
+    return entries<Entry>([&list](const auto& look) { return std::any_of(list.begin(), list.end(), look); });
 }
 
-/// Only the entries whose key equals the number.
-template <class Key> auto having(Key key, int wanted)
+auto cardsOf(const std::vector<s_Subcard>& cards, int modelId)
 {
-    return std::views::filter([key, wanted](const auto& entry) { return std::invoke(key, entry) == wanted; });
+    return allOf(cards).having(&s_Subcard::modelId, modelId);
 }
 
-/// Only the groups with a connector at the position.
-auto holding(int position)
+/// Tests whether a group has a connector at the position.
+auto holds(int position)
 {
-    return std::views::filter([position](const auto& group) {
-        return std::ranges::any_of(group.connectors, [=](const auto& one) { return one.position == position; });
-    });
-}
-
-auto cardsOf(const std::vector<s_Subcard>& cards, int modelId) { return cards | having(&s_Subcard::modelId, modelId); }
-
-/// The first entry, or null.
-template <class View> auto firstOf(View&& view)
-{
-    const auto hit = view.begin();
-    return hit == view.end() ? nullptr : &*hit;
-}
-
-/// The last entry, or null.
-template <class View> auto lastOf(View&& view)
-{
-    decltype(&*view.begin()) hit = nullptr;
-    for (const auto& entry : view) hit = &entry;
-    return hit;
+    return [position](const auto& group) {
+        return std::any_of(group.connectors.begin(), group.connectors.end(),
+                           [position](const auto& connector) { return connector.position == position; });
+    };
 }
 
 template <class Record> Record valueOrEmpty(const Record* hit) { return hit != nullptr ? *hit : Record(); }
@@ -70,8 +123,11 @@ using CapacityConnector = s_ConnectorInConnectorsDeviceModeCapacitysCapacity;
 auto capacitiesOf(const std::vector<s_Subcard>& cards, int modelId, int capacityValue, int deviceMode)
 {
     using Mode = s_DeviceModeInConnectors;
-    return cardsOf(cards, modelId) | each(modesOf) | having(&Mode::value, deviceMode) | each(&Mode::capacitys) |
-           having(&Capacity::value, capacityValue);
+    return cardsOf(cards, modelId)
+        .each(modesOf)
+        .having(&Mode::value, deviceMode)
+        .each(&Mode::capacitys)
+        .having(&Capacity::value, capacityValue);
 }
 
 } // namespace
@@ -85,8 +141,7 @@ std::shared_ptr<s_DCSSubcard> SubcardConfig::Impl::subcardConfig() const
 
 int SubcardConfig::Impl::countAuxConnector() const
 {
-    auto auxiliary = _cards | each(connectorsOf) | having(&s_SubcardConnector::interfaceType, AUX_INTERFACE);
-    return static_cast<int>(std::ranges::distance(auxiliary));
+    return allOf(_cards).each(connectorsOf).having(&s_SubcardConnector::interfaceType, AUX_INTERFACE).count();
 }
 
 // --- The first card alone
@@ -120,8 +175,10 @@ std::shared_ptr<s_HPDIn> SubcardConfig::Impl::findHPDInfo(int modelId, int conne
 {
     const auto* const type = firstType(modelId, connectorType);
     if (type == nullptr || type->hpds.support == 0) return nullptr;
-    const auto* const entry = firstOf(type->hpds.interfaces | having(&s_HPDsInterfaceIn::type, HPD_INTERFACE) |
-                                      std::views::filter(&s_HPDsInterfaceIn::support));
+    const auto* const entry = allOf(type->hpds.interfaces)
+                                  .having(&s_HPDsInterfaceIn::type, HPD_INTERFACE)
+                                  .where([](const s_HPDsInterfaceIn& one) { return one.support != 0; })
+                                  .first();
     return entry ? newCopy(entry->hpd) : nullptr;
 }
 
@@ -151,49 +208,62 @@ const s_Subcard* SubcardConfig::Impl::firstCard(int modelId) const
 std::shared_ptr<s_SubcardConnector> SubcardConfig::Impl::findConnector(int modelId, int position) const
 {
     return copyOrNull(
-        firstOf(cardsOf(_cards, modelId) | each(connectorsOf) | having(&s_SubcardConnector::position, position)));
+        cardsOf(_cards, modelId).each(connectorsOf).having(&s_SubcardConnector::position, position).first());
 }
 
 std::shared_ptr<s_SubcardConnectorGroup> SubcardConfig::Impl::findConnectorLocatedGroup(int modelId, int position) const
 {
-    return copyOrNull(firstOf(cardsOf(_cards, modelId) | each(groupsOf) | holding(position)));
+    return copyOrNull(cardsOf(_cards, modelId).each(groupsOf).where(holds(position)).first());
 }
 
 std::vector<s_ConnectorInfo> SubcardConfig::Impl::findConnectorCopyData(int modelId, int deviceMode, int position) const
 {
-    const auto* const group = firstOf(
-        cardsOf(_cards, modelId) | each(&s_Subcard::mainRelatedCapacitys) | each(&s_CapacityInfo::deviceModes) |
-        having(&s_DeviceModeInfo::value, deviceMode) | each(&s_DeviceModeInfo::connectorGroups) | holding(position));
+    const auto* const group = cardsOf(_cards, modelId)
+                                  .each(&s_Subcard::mainRelatedCapacitys)
+                                  .each(&s_CapacityInfo::deviceModes)
+                                  .having(&s_DeviceModeInfo::value, deviceMode)
+                                  .each(&s_DeviceModeInfo::connectorGroups)
+                                  .where(holds(position))
+                                  .first();
     return group ? group->connectors : std::vector<s_ConnectorInfo>();
 }
 
 Capacity SubcardConfig::Impl::findConnectorDeviceModeCapacity(int modelId, int capacityValue, int deviceMode) const
 {
-    return valueOrEmpty(firstOf(capacitiesOf(_cards, modelId, capacityValue, deviceMode)));
+    return valueOrEmpty(capacitiesOf(_cards, modelId, capacityValue, deviceMode).first());
 }
 
 std::shared_ptr<CapacityConnector>
 SubcardConfig::Impl::findConnectorDeviceModeCapacityConnector(int modelId, int capacityValue, int deviceMode, int type,
                                                               int position) const
 {
-    return copyOrNull(firstOf(capacitiesOf(_cards, modelId, capacityValue, deviceMode) | each(&Capacity::connectors) |
-                              having(&CapacityConnector::type, type) | having(&CapacityConnector::position, position)));
+    return copyOrNull(capacitiesOf(_cards, modelId, capacityValue, deviceMode)
+                          .each(&Capacity::connectors)
+                          .having(&CapacityConnector::type, type)
+                          .having(&CapacityConnector::position, position)
+                          .first());
 }
 
 int SubcardConfig::Impl::findConnectorDeviceModeCapacityDynamicRangeSupport(int modelId, int capacityValue,
                                                                             int deviceMode, int position) const
 {
-    const auto* const hit = firstOf(capacitiesOf(_cards, modelId, capacityValue, deviceMode) |
-                                    each(&Capacity::connectors) | having(&CapacityConnector::position, position));
+    const auto* const hit = capacitiesOf(_cards, modelId, capacityValue, deviceMode)
+                                .each(&Capacity::connectors)
+                                .having(&CapacityConnector::position, position)
+                                .first();
     return hit ? hit->dynamicRange.support : 0;
 }
 
 int SubcardConfig::Impl::findConnectorInterlacedType(int modelId, int type, int position, int capacityMode) const
 {
-    const auto* const hit = firstOf(
-        cardsOf(_cards, modelId) | each(modesOf) | each(&s_DeviceModeInConnectors::capacitys) |
-        each(&Capacity::connectors) | having(&CapacityConnector::type, type) |
-        having(&CapacityConnector::position, position) | having(&CapacityConnector::capacityMode, capacityMode));
+    const auto* const hit = cardsOf(_cards, modelId)
+                                .each(modesOf)
+                                .each(&s_DeviceModeInConnectors::capacitys)
+                                .each(&Capacity::connectors)
+                                .having(&CapacityConnector::type, type)
+                                .having(&CapacityConnector::position, position)
+                                .having(&CapacityConnector::capacityMode, capacityMode)
+                                .first();
     return hit ? hit->interlacedType : 0;
 }
 
@@ -201,15 +271,17 @@ int SubcardConfig::Impl::findConnectorInterlacedType(int modelId, int type, int 
 
 s_SubcardDeviceMode SubcardConfig::Impl::findSubcardModeData(int modelId, int capacityValue, int deviceMode) const
 {
-    return valueOrEmpty(lastOf(cardsOf(_cards, modelId) | each(&s_Subcard::capacityGroups) |
-                               having(&s_CapacityInCapacityGroups::value, capacityValue) |
-                               each(&s_CapacityInCapacityGroups::deviceModes) |
-                               having(&s_SubcardDeviceMode::value, deviceMode)));
+    return valueOrEmpty(cardsOf(_cards, modelId)
+                            .each(&s_Subcard::capacityGroups)
+                            .having(&s_CapacityInCapacityGroups::value, capacityValue)
+                            .each(&s_CapacityInCapacityGroups::deviceModes)
+                            .having(&s_SubcardDeviceMode::value, deviceMode)
+                            .last());
 }
 
 std::vector<s_SubcardConnector> SubcardConfig::Impl::findConnectorByGroupId(int modelId) const
 {
-    const s_Subcard* const card = lastOf(cardsOf(_cards, modelId));
+    const s_Subcard* const card = cardsOf(_cards, modelId).last();
     if (card == nullptr) return {};
     std::vector<s_SubcardConnector> connectors = connectorsOf(*card);
     takeInterfaceTypes(modelId, connectors);
@@ -218,8 +290,8 @@ std::vector<s_SubcardConnector> SubcardConfig::Impl::findConnectorByGroupId(int 
 
 s_SubcardConnectorGroup SubcardConfig::Impl::findConnectorGroupByGroupId(int modelId, int groupId) const
 {
-    s_SubcardConnectorGroup group = valueOrEmpty(
-        lastOf(cardsOf(_cards, modelId) | each(groupsOf) | having(&s_SubcardConnectorGroup::value, groupId)));
+    s_SubcardConnectorGroup group =
+        valueOrEmpty(cardsOf(_cards, modelId).each(groupsOf).having(&s_SubcardConnectorGroup::value, groupId).last());
     takeInterfaceTypes(modelId, group.connectors);
     return group;
 }
@@ -227,8 +299,10 @@ s_SubcardConnectorGroup SubcardConfig::Impl::findConnectorGroupByGroupId(int mod
 void SubcardConfig::Impl::takeInterfaceTypes(int modelId, std::vector<s_SubcardConnector>& connectors) const
 {
     for (s_SubcardConnector& connector : connectors)
-        if (const auto* const plain = lastOf(cardsOf(_cards, modelId) | each(connectorsOf) |
-                                             having(&s_SubcardConnector::position, connector.position)))
+        if (const auto* const plain = cardsOf(_cards, modelId)
+                                          .each(connectorsOf)
+                                          .having(&s_SubcardConnector::position, connector.position)
+                                          .last())
             connector.interfaceType = plain->interfaceType;
 }
 

@@ -2,31 +2,50 @@
 
 namespace LCD::MainConfigImpl::reading {
 
+namespace {
+
+/// Whether the text is one to nine plain digits, as nearly every number of a file is. Then the field has its number
+/// without the detours of Qt, which sees to signs, spaces, ranges and the digits of all scripts.
+template <class Field> bool takesDigits(const QString& text, Field& field)
+{
+    if (text.isEmpty() || text.size() > 9) return false;
+    int number = 0;
+    for (const QChar character : text) {
+        const int digit = character.unicode() - '0';
+        if (digit < 0 || digit > 9) return false;
+        number = number * 10 + digit;
+    }
+    field = static_cast<Field>(number);
+    return true;
+}
+
+} // namespace
+
 bool convert(const QString& text, int& field)
 {
-    bool good = false;
-    field = text.toInt(&good, 10);
+    bool good = takesDigits(text, field);
+    if (!good) field = text.toInt(&good, 10);
     return good;
 }
 
 bool convert(const QString& text, std::uint64_t& field)
 {
-    bool good = false;
-    field = text.toULongLong(&good, 10);
+    bool good = takesDigits(text, field);
+    if (!good) field = text.toULongLong(&good, 10);
     return good;
 }
 
 bool convert(const QString& text, float& field)
 {
-    bool good = false;
-    field = text.toFloat(&good);
+    bool good = takesDigits(text, field);
+    if (!good) field = text.toFloat(&good);
     return good;
 }
 
 bool convert(const QString& text, double& field)
 {
-    bool good = false;
-    field = text.toDouble(&good);
+    bool good = takesDigits(text, field);
+    if (!good) field = text.toDouble(&good);
     return good;
 }
 
@@ -52,8 +71,8 @@ bool ThroughFloat::operator()(const QString& text, double& field) const
 
 bool Signed64::operator()(const QString& text, std::uint64_t& field) const
 {
-    bool good = false;
-    field = static_cast<std::uint64_t>(text.toLongLong(&good, 10));
+    bool good = takesDigits(text, field);
+    if (!good) field = static_cast<std::uint64_t>(text.toLongLong(&good, 10));
     return good;
 }
 

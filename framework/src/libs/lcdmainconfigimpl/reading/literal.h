@@ -12,7 +12,7 @@ public:
     /// From a string literal only: the address of the text is what it is known by, so the text must never change.
     consteval Literal(const char* text) : _text(text) {} // NOLINT(google-explicit-constructor): rows name texts
 
-    /// The text as a string. The reference stays good until the calling thread ends.
+    /// The text as a string, from any thread. The reference stays good until the library is unloaded.
     [[nodiscard]] const QString& string() const;
 
 private:

@@ -1,66 +1,280 @@
 #include "inifile.h"
 
-#include <vector>
+#include "filedescriptor.h"
+#include "replacement.h"
 
-#include <QByteArray>
-#include <QCoreApplication>
-#include <QEvent>
+#include <system_error>
+
+#include <QDebug>
 #include <QFileInfo>
-#include <QLockFile>
-#include <QTemporaryFile>
 
 namespace LCD::MainConfigImpl {
 
-IniFile::IniFile(const QString& path, std::mutex& mutex) : QSettings(path, IniFormat), _mutex(mutex)
+using namespace std::chrono_literals;
+
+namespace {
+
+/// QSettings drops slashes at the ends, and all but one of several.
+QString normalized(const QString& key) { return key.split('/', Qt::SkipEmptyParts).join('/'); }
+
+bool isIn(const QString& key, const QString& group)
 {
-    // A lock without an owner, as a power cut leaves it, would hold up the first write for half a minute. The lock of a
-    // live process stays.
-    QLockFile(fileName() + ".lock").removeStaleLockFile();
+    return group.isEmpty() || key == group || key.startsWith(group + '/');
 }
 
-bool IniFile::write()
+bool isSame(const timespec& one, const timespec& other)
 {
-    if (!hasRoom()) return false;
-    sync();
-    return true;
+    return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
 }
 
-bool IniFile::event(QEvent* event)
+bool isSame(const struct stat& one, const struct stat& other)
 {
-    if (event->type() != QEvent::UpdateRequest && event->type() != QEvent::Timer) return QSettings::event(event);
-    const std::lock_guard lock(_mutex);
-    // QSettings asks only once.
-    if (write())
-        _retry.stop();
-    else
-        _retry.start(1000, this);
-    return true;
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_size == other.st_size &&
+           isSame(one.st_mtim, other.st_mtim) && isSame(one.st_ctim, other.st_ctim);
 }
 
-/// Tries it out beside the file, with a file that is at least as long as the one to be written and its lock together.
-bool IniFile::hasRoom() const
+/// The files of the process by their real paths.
+struct Opened {
+    IniFile* file = nullptr;
+    int users = 0;
+};
+std::mutex openedMutex;
+QMap<QString, Opened>& openedFiles()
 {
-    // The present size covers what is no text, such as lists.
-    const QFileInfo info(fileName());
-    qint64 length = 8192 + info.size();
-    // A letter takes up to six bytes.
-    for (const QString& key : allKeys()) length += 32 + 6 * (key.size() + value(key).toString().size());
-    QTemporaryFile scratch((info.exists() ? info.canonicalFilePath() : fileName()) + ".XXXXXX");
-    return scratch.open() && scratch.write(QByteArray(int(length), ' ')) == length && scratch.flush();
+    // Never destroyed: what could not be written stays in sight of leak checks.
+    static auto& files = *new QMap<QString, Opened>;
+    return files;
+}
+
+} // namespace
+
+IniFile::Pointer IniFile::open(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString real = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    const std::lock_guard lock(openedMutex);
+    Opened& opened = openedFiles()[real];
+    if (!opened.file) opened.file = new IniFile(real);
+    if (++opened.users == 1) opened.file->write();
+    return Pointer(opened.file);
 }
 
 void IniFile::Closer::operator()(IniFile* file) const
 {
-    if (file->write()) {
-        delete file;
+    const std::lock_guard lock(openedMutex);
+    const auto opened = openedFiles().find(file->_path);
+    if (--opened->users > 0) return;
+    file->close();
+    if (file->isPending()) return;
+    openedFiles().erase(opened);
+    delete file;
+}
+
+IniFile::IniFile(const QString& path) : _path(path)
+{
+    Replacement::clearAway(_path);
+    refresh();
+}
+
+IniFile::~IniFile() = default;
+
+void IniFile::close()
+{
+    {
+        const std::lock_guard lock(_mutex);
+        _isClosing = true;
+    }
+    _closing.notify_all();
+    // Nobody else has the object now, so nobody starts the thread again.
+    if (_laterTries.joinable()) _laterTries.join();
+    write();
+    const std::lock_guard lock(_mutex);
+    _isClosing = false;
+}
+
+void IniFile::refresh()
+{
+    const std::lock_guard lock(_mutex);
+    refreshUnlocked();
+}
+
+/// False: it cannot be read.
+bool IniFile::refreshUnlocked()
+{
+    struct stat status {};
+    const bool exists = stat(QFile::encodeName(_path).constData(), &status) == 0;
+    const bool isGone = !exists && errno == ENOENT;
+    if ((exists || isGone) && _read && isSame(status, *_read)) return true;
+    if (isGone) return replaceStored({}, status);
+    const FileDescriptor file(_path, O_RDONLY);
+    const auto opened = file.isOpen() ? file.status() : std::nullopt;
+    if (!opened) return complain(qt_error_string(errno));
+    if (!S_ISREG(opened->st_mode)) return complain("it is no regular file");
+    if (opened->st_size > MOST_BYTES) return complain("it is larger than 4 MiB");
+    const auto text = file.read(MOST_BYTES + 1);
+    if (!text) return complain(qt_error_string(errno));
+    if (text->size() > MOST_BYTES) return complain("it is larger than 4 MiB");
+    return replaceStored(*text, *opened);
+}
+
+bool IniFile::complain(const QString& reason)
+{
+    _read.reset();
+    if (reason != _unreadable) qWarning().noquote() << "The settings in" << _path << "cannot be read:" << reason;
+    _unreadable = reason;
+    return false;
+}
+
+bool IniFile::replaceStored(const QByteArray& text, const struct stat& status)
+{
+    auto stored = readIniText(text);
+    if (!stored) return complain("there is no memory for it");
+    _stored = std::move(stored);
+    _read = status;
+    _unreadable.clear();
+    _isDamaged = _stored->status() != QSettings::NoError || text.contains('\0');
+    if (_isDamaged) qWarning().noquote() << "The settings in" << _path << "are damaged; some entries are lost";
+    return true;
+}
+
+bool IniFile::isKnown() const
+{
+    const std::lock_guard lock(_mutex);
+    return _stored != nullptr;
+}
+
+QVariant IniFile::value(const QString& key, const QVariant& unknown) const
+{
+    const QString whole = normalized(key);
+    const std::lock_guard lock(_mutex);
+    const auto change = _pending.find(whole);
+    if (change != _pending.end()) return change->value.value_or(QVariant());
+    return _stored ? _stored->value(whole) : unknown;
+}
+
+bool IniFile::contains(const QString& key) const { return entries().contains(normalized(key)); }
+
+IniEntries IniFile::entries() const
+{
+    const std::lock_guard lock(_mutex);
+    return entriesUnlocked();
+}
+
+IniEntries IniFile::entriesUnlocked() const
+{
+    IniEntries entries;
+    if (_stored)
+        for (const QString& key : _stored->allKeys()) entries[key] = _stored->value(key);
+    for (auto change = _pending.begin(); change != _pending.end(); ++change)
+        if (change->value)
+            entries[change.key()] = *change->value;
+        else
+            entries.remove(change.key());
+    return entries;
+}
+
+void IniFile::setValue(const QString& key, const QVariant& value)
+{
+    const QString whole = normalized(key);
+    if (whole.isEmpty()) {
+        qWarning("QSettings::setValue: Empty key passed");
         return;
     }
-    // The destructor would write. So the object is left behind, cut off from the event loop and in sight of leak
-    // checks.
-    file->_retry.stop();
-    QCoreApplication::removePostedEvents(file);
-    static auto& leftBehind = *new std::vector<IniFile*>;
-    leftBehind.push_back(file);
+    const std::lock_guard lock(_mutex);
+    _pending[whole] = {value, ++_changes};
+}
+
+void IniFile::remove(const QString& group)
+{
+    const QString whole = normalized(group);
+    const std::lock_guard lock(_mutex);
+    for (const QString& key : entriesUnlocked().keys())
+        if (isIn(key, whole)) _pending[key] = {std::nullopt, ++_changes};
+}
+
+bool IniFile::isPending() const
+{
+    const std::lock_guard lock(_mutex);
+    return !_pending.isEmpty();
+}
+
+void IniFile::write()
+{
+    const std::lock_guard lock(_writing);
+    if (!isPending()) return;
+    // Who could not write a moment ago need not wait long again.
+    const QString problem = attempt(_unwritable.isEmpty() ? 1000ms : 0ms);
+    if (!problem.isEmpty() && problem != _unwritable)
+        qWarning().noquote() << "The settings in" << _path << "cannot be written now:" << problem;
+    _unwritable = problem;
+    if (!problem.isEmpty()) tryAgainLater();
+}
+
+/// Why nothing was written; empty when all is well.
+QString IniFile::attempt(std::chrono::milliseconds patience)
+{
+    Replacement replacement(_path, patience);
+    if (!replacement.problem().isEmpty()) return replacement.problem();
+    std::unique_lock lock(_mutex);
+    // Whoever had the lock before may have written.
+    if (!refreshUnlocked()) return "the old file cannot be read: " + _unreadable;
+    const IniEntries entries = entriesUnlocked();
+    const quint64 lastChange = _changes;
+    const QString notKept = _isDamaged ? keepAside() : QString();
+    lock.unlock();
+
+    const QByteArray text = iniText(entries);
+    if (!notKept.isEmpty()) return notKept;
+    if (text.size() > MOST_BYTES) return "the new file would be larger than 4 MiB";
+    if (!replacement.commit(text)) return replacement.problem();
+
+    lock.lock();
+    // The changes must not be forgotten before they can be read where they were written.
+    if (!refreshUnlocked()) return "the new file cannot be read: " + _unreadable;
+    for (auto change = _pending.begin(); change != _pending.end();)
+        change = change->number <= lastChange ? _pending.erase(change) : std::next(change);
+    return {};
+}
+
+/// A second name for the damaged file, which keeps it when the first one goes to the new file.
+QString IniFile::keepAside() const
+{
+    const QString aside = _path + ".damaged";
+    QFile::remove(aside);
+    if (link(QFile::encodeName(_path).constData(), QFile::encodeName(aside).constData()) == 0 ||
+        QFile::copy(_path, aside))
+        return {};
+    return "the damaged file cannot be kept as " + aside;
+}
+
+/// In a thread of its own, since no event loop can be relied upon: the one that opened the file may have ended.
+void IniFile::tryAgainLater()
+{
+    {
+        const std::lock_guard lock(_mutex);
+        if (_isTryingAgain || _isClosing) return;
+        _isTryingAgain = true;
+    }
+    if (_laterTries.joinable()) _laterTries.join();
+    try {
+        _laterTries = std::thread(&IniFile::tryAgain, this);
+    } catch (const std::system_error&) {
+        // Then the next setter tries again.
+        const std::lock_guard lock(_mutex);
+        _isTryingAgain = false;
+    }
+}
+
+void IniFile::tryAgain()
+{
+    std::unique_lock lock(_mutex);
+    for (auto pause = 1s; !_pending.isEmpty(); pause = std::min(2 * pause, 30s)) {
+        if (_closing.wait_for(lock, pause, [this] { return _isClosing; })) break;
+        lock.unlock();
+        write();
+        lock.lock();
+    }
+    _isTryingAgain = false;
 }
 
 } // namespace LCD::MainConfigImpl

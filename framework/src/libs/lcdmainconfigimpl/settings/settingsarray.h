@@ -3,14 +3,15 @@
 #ifndef LCDMAINCONFIGIMPL_SETTINGS_SETTINGSARRAY_H
 #define LCDMAINCONFIGIMPL_SETTINGS_SETTINGSARRAY_H
 
-#include <QSettings>
+#include "inifile.h"
+
 #include <QString>
 
 namespace LCD::MainConfigImpl {
 
 class SettingsArray {
 public:
-    SettingsArray(QSettings& setting, const char* name) : _setting(setting), _prefix(QString(name) + '/') {}
+    SettingsArray(IniFile& setting, const char* name) : _setting(setting), _prefix(QString(name) + '/') {}
 
     /// As the file tells it, but no more than a file can sensibly hold: a mistyped number must not keep the panel
     /// waiting.
@@ -40,7 +41,7 @@ private:
         return _prefix + QString::number(row + 1) + '/' + entry;
     }
 
-    QSettings& _setting;
+    IniFile& _setting;
     QString _prefix;
 };
 

@@ -1,37 +1,54 @@
 #include "settingsstore.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include <QDebug>
-#include <QFileInfo>
 
 namespace LCD::MainConfigImpl {
 
 void linuxSync() { [[maybe_unused]] const int ignored = std::system("sync"); }
 
+int boundedFnButtons(int count)
+{
+    constexpr int most = 256;
+    if (count > most) qWarning() << "Only the first" << most << "of" << count << "function buttons are set";
+    return std::min(count, most);
+}
+
 void SettingsStore::open(const QString& path)
 {
+    IniFile::Pointer file = IniFile::open(path);
     const std::lock_guard lock(_mutex);
-    const QString file = QFileInfo(path).absoluteFilePath();
-    for (const IniFile::Pointer& opened : _opened)
-        if (opened->fileName() == file) {
-            // A second QSettings on the file would write what is pending, room or not.
-            opened->write();
-            _setting = opened.get();
-            return;
-        }
-    _setting = _opened.emplace_back(new IniFile(path, _mutex)).get();
+    _setting = file.get();
+    const auto isOpen = [&](const IniFile::Pointer& opened) { return opened == file; };
+    if (std::none_of(_opened.begin(), _opened.end(), isOpen)) _opened.push_back(std::move(file));
 }
 
-bool SettingsStore::isOpenOrWarn() const
+IniFile* SettingsStore::setting() const
 {
-    if (!_setting) qWarning() << "_setting is nullptr";
-    return _setting;
+    IniFile* const opened = _setting;
+    if (opened) opened->refresh();
+    return opened;
 }
 
-int SettingsStore::number(const QString& key, int noStore) const
+IniFile* SettingsStore::settingOrWarn() const
 {
-    return read(noStore, [&](const QSettings& setting) { return setting.value(key).toInt(); });
+    IniFile* const opened = setting();
+    if (!opened) qWarning() << "_setting is nullptr";
+    return opened;
+}
+
+int SettingsStore::number(const QString& key, int noStore) const { return numbers({{key, noStore}}).front(); }
+
+std::vector<int> SettingsStore::numbers(std::initializer_list<Number> entries) const
+{
+    const std::lock_guard lock(_mutex);
+    const IniFile* const opened = setting();
+    std::vector<int> numbers;
+    for (const Number& entry : entries)
+        numbers.push_back(opened ? opened->value(entry.key, entry.noStore).toInt() : entry.noStore);
+    return numbers;
 }
 
 QString SettingsStore::text(const QString& key, const char* noStore) const
@@ -42,42 +59,35 @@ QString SettingsStore::text(const QString& key, const char* noStore) const
 
 QString SettingsStore::textUnlocked(const QString& key, const char* noStore) const
 {
-    const QSettings* const setting = _setting;
-    return setting ? setting->value(key).toString() : QString(noStore);
+    const IniFile* const opened = setting();
+    return opened ? opened->value(key, noStore).toString() : QString(noStore);
 }
 
 QStringList SettingsStore::seeded(std::initializer_list<Seed> entries) const
 {
     QStringList texts;
     int written = 0;
+    IniFile* opened = nullptr;
     {
         const std::lock_guard lock(_mutex);
-        IniFile* const setting = _setting;
+        opened = setting();
         for (const Seed& entry : entries) {
-            const QString text = setting ? setting->value(entry.key).toString() : QString();
+            const QString text = opened ? opened->value(entry.key).toString() : QString();
             texts.append(text.isEmpty() ? entry.text : text);
-            if (!setting || !text.isEmpty()) continue;
-            setting->setValue(entry.key, entry.text);
+            // Who does not know the file can't know that the entry is empty.
+            if (!opened || !opened->isKnown() || !text.isEmpty()) continue;
+            opened->setValue(entry.key, entry.text);
             ++written;
         }
-        if (written > 0) setting->write();
     }
+    if (written > 0) opened->write();
     while (written-- > 0) linuxSync();
     return texts;
 }
 
 void SettingsStore::set(const QString& key, const QVariant& value)
 {
-    if (change([&](QSettings& setting) { setting.setValue(key, value); })) linuxSync();
-}
-
-void SettingsStore::setNow(const QString& key, const QVariant& value)
-{
-    const auto use = [&](IniFile& setting) {
-        setting.setValue(key, value);
-        setting.write();
-    };
-    if (change(use)) linuxSync();
+    if (change([&](IniFile& setting) { setting.setValue(key, value); })) linuxSync();
 }
 
 } // namespace LCD::MainConfigImpl

@@ -1,4 +1,4 @@
-// The ini file under a settings component: one mutex, one open QSettings, and what a getter gives while there is none.
+// The ini file under a settings component: one mutex, the open file, and what a getter gives while there is none.
 //
 // Keys are whole, "Section/Entry"; the groups and arrays of QSettings are never entered. Their position is a state of
 // the QSettings object, and an operation that takes no lock would find its key under the group of another thread.
@@ -21,8 +21,17 @@ namespace LCD::MainConfigImpl {
 /// Has the operating system bring its files to the storage. That takes its time, so no lock is held meanwhile.
 void linuxSync();
 
+/// The number of function buttons, cut with a warning to what any panel has, since each one costs a write and a flush.
+int boundedFnButtons(int count);
+
+/// A file that was never readable counts as no store to those who read entries.
 class SettingsStore {
 public:
+    /// A number, and what it is without a store.
+    struct Number {
+        QString key;
+        int noStore;
+    };
     /// An entry that a getter writes when it finds it empty.
     struct Seed {
         const char* key;
@@ -33,50 +42,65 @@ public:
     void open(const QString& path);
 
     [[nodiscard]] int number(const QString& key, int noStore) const;
+    [[nodiscard]] std::vector<int> numbers(std::initializer_list<Number> entries) const;
     [[nodiscard]] QString text(const QString& key, const char* noStore) const;
     [[nodiscard]] QString textUnlocked(const QString& key, const char* noStore) const;
     /// The texts of the entries; an empty one is written with its seed, each with a flush of its own. No store: the
     /// seeds, nothing written.
     [[nodiscard]] QStringList seeded(std::initializer_list<Seed> entries) const;
 
-    /// The value reaches the file when QSettings chooses, which may be after the flush.
-    void set(const QString& key, const QVariant& value);
     /// The value is in the file before the flush.
-    void setNow(const QString& key, const QVariant& value);
+    void set(const QString& key, const QVariant& value);
 
     /// What `use` makes of the open store, under the lock.
     template <class Result, class Use> Result read(const Result& noStore, const Use& use) const
     {
         const std::lock_guard lock(_mutex);
-        return _setting ? use(*_setting) : noStore;
+        IniFile* const opened = setting();
+        return opened ? use(*opened) : noStore;
     }
     template <class Result, class Use> Result readOrWarn(const Result& noStore, const Use& use) const
     {
         const std::lock_guard lock(_mutex);
-        return isOpenOrWarn() ? use(*_setting) : noStore;
+        IniFile* const opened = settingOrWarn();
+        return opened ? use(*opened) : noStore;
     }
 
-    /// Has `use` change the open store; to do so without one is the caller's error. False: nothing was done.
-    template <class Use> bool changeUnlocked(const Use& use)
-    {
-        Q_ASSERT_X(_setting, "settings", "a setter was called before a successful readConfig");
-        if (!_setting) return false;
-        use(*_setting);
-        return true;
-    }
+    /// Has `use` change the open store, under the lock, and then writes, without it; to do so without a store is the
+    /// caller's error. False: nothing was done.
     template <class Use> bool change(const Use& use)
     {
-        const std::lock_guard lock(_mutex);
-        return changeUnlocked(use);
+        std::unique_lock lock(_mutex);
+        IniFile* const changed = changedBy(use);
+        lock.unlock();
+        return written(changed);
     }
+    template <class Use> bool changeUnlocked(const Use& use) { return written(changedBy(use)); }
     template <class Use> bool changeOrWarn(const Use& use)
     {
-        const std::lock_guard lock(_mutex);
-        return isOpenOrWarn() && changeUnlocked(use);
+        std::unique_lock lock(_mutex);
+        IniFile* const changed = settingOrWarn() ? changedBy(use) : nullptr;
+        lock.unlock();
+        return written(changed);
     }
+    /// Tries once more to write what is pending.
+    void write() const { written(_setting); }
 
 private:
-    [[nodiscard]] bool isOpenOrWarn() const;
+    [[nodiscard]] IniFile* setting() const;
+    [[nodiscard]] IniFile* settingOrWarn() const;
+    template <class Use> [[nodiscard]] IniFile* changedBy(const Use& use)
+    {
+        IniFile* const opened = setting();
+        Q_ASSERT_X(opened, "settings", "a setter was called before a successful readConfig");
+        if (opened) use(*opened);
+        return opened;
+    }
+    static bool written(IniFile* file)
+    {
+        if (file) file->write();
+        return file;
+    }
 
     mutable std::mutex _mutex;
     std::atomic<IniFile*> _setting = nullptr;
