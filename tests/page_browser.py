@@ -208,7 +208,8 @@ def check(browser):
         expect("in %s nothing is shown in %s" % (language, other), browser.evaluate(
             "[...document.querySelectorAll('main [lang=%s]')].filter((text) => text.checkVisibility())"
             ".slice(0, 5).map((text) => text.textContent)" % other))
-    browser.evaluate("for (const fold of document.querySelectorAll('details')) fold.open = true")
+    # All folds of a large page at once are more than anybody looks at.
+    browser.evaluate("[...document.querySelectorAll('details')].slice(0, 300).forEach((fold) => { fold.open = true; })")
     for scheme in ("light", "dark"):
         browser.look(1280, 900, scheme)
         expect("contrast, " + scheme, browser.evaluate(CONTRAST))

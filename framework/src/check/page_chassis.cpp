@@ -143,6 +143,7 @@ void writeSlotRow(Sheet& sheet, const PageDevice& device, const PageSlot& slot)
     writeCell(sheet, [&] { out.words(interfaceWords(slot.slotClass->interfaceType)); });
     writeCell(sheet, [&] {
         if (slot.slot->subcards.empty()) out.words({"takes no card", "不接受板卡"});
+        const List folded(sheet, slot.slot->subcards.size());
         const Element list(out, "ul", {{"class", "plain"}});
         for (const Lcd::s_InlineSubcard& entry : slot.slot->subcards) {
             const Element item(out, "li");

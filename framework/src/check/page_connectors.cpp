@@ -143,7 +143,7 @@ void writeOffers(Sheet& sheet, const PageConnectorType& type)
     for (const int interface : type.interfaces) offers[offeredBy(sheet, type, interface)] |= interface;
     for (const auto& [offered, interfaces] : offers) {
         const Words names = interfaceWords(interfaces);
-        const Element line(sheet.out, "p", {{"class", "offers"}});
+        const Element line(sheet.out, "div", {{"class", "offers"}});
         sheet.out.leaf("strong", {}, Words{"Offers as " + names.english + ':', "作为" + names.chinese + "提供："});
         sheet.out.text(QStringLiteral(" "));
         if (offered.empty()) sheet.out.words({"nothing", "无"});

@@ -59,6 +59,14 @@ void typeLink(Sheet& sheet, int type)
     sheet.out.words({"no such type", "没有此类型"});
 }
 
+List::List(Sheet& sheet, std::size_t count) : _holder(sheet.out, "div", {{"class", "list"}})
+{
+    constexpr std::size_t SEEN_AT_ONCE = 40;
+    if (count <= SEEN_AT_ONCE) return;
+    _fold.reset(new Element(sheet.out, "details", {{"class", "more"}}));
+    sheet.out.leaf("summary", {}, Words{"all %1", "全部 %1 项"}.with(count));
+}
+
 void nothing(Sheet& sheet, const Words& words) { sheet.out.leaf("p", {{"class", "nothing"}}, words); }
 
 QString numbers(const std::vector<int>& list)

@@ -7,6 +7,7 @@
 #include "common/layoutdrawing.h"
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace lcdcheck {
@@ -81,10 +82,19 @@ void link(Sheet& sheet, const QString& anchor, const Words& words);
 /// The number of a card model, leading to the card, or marked where the catalogue has none.
 void cardLink(Sheet& sheet, std::uint64_t model);
 void typeLink(Sheet& sheet, int type);
+/// Holds a list; one that is too long to be seen at once is folded.
+class List {
+public:
+    List(Sheet& sheet, std::size_t count);
+
+private:
+    Element _holder;
+    std::unique_ptr<Element> _fold;
+};
 /// Several of these with free space between.
-template <class List, class Write> void listOf(Sheet& sheet, const List& list, const Write& write)
+template <class Entries, class Write> void listOf(Sheet& sheet, const Entries& list, const Write& write)
 {
-    const Element holder(sheet.out, "span", {{"class", "list"}});
+    const List holder(sheet, list.size());
     for (const auto& entry : list) {
         write(entry);
         sheet.out.text(QStringLiteral(" "));

@@ -90,7 +90,8 @@ section { margin-bottom: 3.5rem; }
 dt { font-size: .8rem; color: var(--soft); }
 dd { margin: 0; overflow-wrap: anywhere; }
 .list a { margin-right: .35rem; white-space: nowrap; }
-.offers { font-size: .9rem; max-width: 60rem; }
+.offers .list { display: inline; }
+.offers { margin: .4rem 0; font-size: .9rem; max-width: 60rem; }
 .offers strong { font-weight: 600; }
 .missing { color: var(--bad); font-weight: 600; }
 .badge { font-size: .78rem; font-weight: 600; padding: .1rem .5rem; border-radius: 1rem; text-decoration: none;
