@@ -2,6 +2,7 @@
 #include "describe.h"
 #include "expect.h"
 #include "options.h"
+#include "pagefile.h"
 #include "progress.h"
 #include "watch.h"
 
@@ -26,6 +27,13 @@ int checkOnce(const Options& options, Console& console)
     select(checked.findings, options.selection);
     sort(checked.findings);
     options.format->write(checked, options.request.roots, console.out);
+    if (!options.html.isEmpty()) {
+        const QString lost = writePageFile(options.html, options.request, checked);
+        if (!lost.isEmpty()) {
+            console.complaints.line("lcdcheck: cannot write " + options.html + ": " + lost);
+            return Failed;
+        }
+    }
     return reaches(checked.findings, options.failOn) ? Failed : Good;
 }
 

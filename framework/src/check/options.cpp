@@ -92,6 +92,12 @@ QString takeLanguage(const QString& value, Options& options)
     return wrong;
 }
 
+QString takeHtml(const QString& value, Options& options)
+{
+    options.html = value;
+    return value.isEmpty() ? "--html needs the name of a file" : QString();
+}
+
 const std::vector<Option>& checkOptions()
 {
     static const std::vector<Option> all{
@@ -99,6 +105,7 @@ const std::vector<Option>& checkOptions()
         {"only", "ID,...", "Tell these findings alone.", takeOnly},
         {"ignore", "ID,...", "Do not tell these findings.", takeIgnore},
         {"fail-on", "SEVERITY", "End with status 1 from error, warning (default) or note on, or never.", takeFailOn},
+        {"html", "FILE", "Write a page of the configuration with its findings too.", takeHtml},
         {"kind", "KIND", "What the single files are, where place and name do not tell; see below.", takeKind},
         {"language", "LANGUAGE", "Language of names in messages, en (default) or zh_CN.", takeLanguage},
     };
@@ -240,6 +247,7 @@ private:
         for (const QString& path : _paths) wrong(takePath(path, optionNames(_modes), _line.options.request));
         if (!_line.options.request.kind.isEmpty() && _line.options.request.files.isEmpty())
             wrong("--kind is for single files");
+        if (!_line.options.html.isEmpty() && _line.options.request.roots.size() != 1) wrong("--html is for one root");
     }
 
     /// Of a mode that does not check.

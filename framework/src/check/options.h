@@ -26,6 +26,7 @@ struct Options {
     const Format* format = &formats().front();
     QString formatName; ///< The same of a mode that does not check; empty where none is named.
     Selection selection;
+    QString html;                                       ///< File for the page of the root; empty: none is written.
     std::optional<Severity> failOn = Severity::Warning; ///< Nothing: never.
 };
 

@@ -14,6 +14,7 @@ struct Options {
     int position = 0;
     std::optional<int> interfaceMask; ///< Without it, the connector's own interface type.
     bool json = false;
+    bool svg = false;
     bool userSettings = false;
     QString device; ///< The device to be shown, by the name of its folder or its own; empty for the first.
 };
@@ -25,6 +26,9 @@ Answer runResolutions(Session& session, const Options& options);
 Answer runScreens(Session& session, const Options& options);
 Answer runMenu(Session& session, const Options& options);
 Answer runSettings(Session& session, const Options& options);
+
+/// The layouts of all screens of the devices below one another, as one SVG document.
+QByteArray screensDrawing(const Session& session, const QList<Lcd::s_Device>& devices);
 
 } // namespace lcdhost
 

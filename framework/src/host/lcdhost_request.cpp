@@ -21,7 +21,7 @@ const std::vector<Command>& commands()
          "show what one connector of a card offers: resolutions, rates, timing",
          {"card", "position", "interface"},
          runResolutions},
-        {"screens", "draw the layouts of the screens", {"device"}, runScreens},
+        {"screens", "draw the layouts of the screens", {"device", "svg"}, runScreens},
         {"menu", "show the menu tree", {}, runMenu},
         {"settings", "show the factory settings", {"user-settings"}, runSettings},
     };
@@ -64,6 +64,7 @@ void setUp(QCommandLineParser& parser)
          "load, screens: the device to be shown, by the name of its folder or its own. It is loaded first, since the "
          "panel is told about the first device alone.",
          "name"},
+        {"svg", "screens: write a drawing to scale, one SVG document."},
         {"card", "resolutions: model of the card.", "model"},
         {"position", "resolutions: position of the connector on the card.", "number"},
         {"interface", "resolutions: interface types as a bit mask (default: the connector's own type).", "mask"},
@@ -153,6 +154,7 @@ void readOptions(const QCommandLineParser& parser, Request& request)
     request.plugin = parser.value("plugin");
     request.language = parser.value("language");
     request.options.userSettings = parser.isSet("user-settings");
+    request.options.svg = parser.isSet("svg");
     request.options.device = parser.value("device");
     request.options.interfaceMask = numberOf(parser, "interface", false, request);
     request.options.position = numberOf(parser, "position", asksCard, request).value_or(0);
@@ -164,6 +166,7 @@ QString whyNotRun(const QCommandLineParser& parser, const Request& request)
 {
     const QString stray = strayOption(parser, *request.command);
     if (!stray.isEmpty()) return "'" + request.command->name + "' takes no --" + stray;
+    if (parser.isSet("svg") && parser.isSet("json")) return "--svg and --json do not go together";
     if (!QStringList{"en", "zh_CN"}.contains(parser.value("language"))) return "--language takes en or zh_CN";
     return whyNoRoot(request.root);
 }

@@ -159,9 +159,14 @@ Answer runScreens(Session& session, const Options& options)
     session.load(Catalogue::Devices);
     const auto& devices = session.devices().DeviceConfigs();
     const bool one = devices.size() == 1 || !options.device.isEmpty();
+    const QList<Lcd::s_Device> asked = one ? devices.mid(0, 1) : devices;
     Answer answer;
+    if (options.svg) {
+        answer.show([drawing = screensDrawing(session, asked)](Page& page) { page.write(drawing); });
+        return answer;
+    }
     answer.json["screens"] = QJsonArray();
-    for (const Lcd::s_Device& device : one ? devices.mid(0, 1) : devices)
+    for (const Lcd::s_Device& device : asked)
         answerDevice(session, device, one ? QString() : text(device.feature.name) + ": ", answer);
     if (answer.json["screens"].toArray().isEmpty()) answer.show([](Page& page) { page.line("There are no screens."); });
     return answer;

@@ -106,6 +106,7 @@ public:
     [[nodiscard]] QString connectorName(int type) const;
 
     [[nodiscard]] const QString& root() const { return _root; }
+    [[nodiscard]] bool isEnglish() const { return _english; }
 
 private:
     template <class Interface> [[nodiscard]] Interface& get(const char* id) const
