@@ -72,7 +72,11 @@ int runNew(const Options& options, Console& console)
         return Failed;
     }
     const FileKindInfo* const kind = kindOrComplain(options.subject, console);
-    if (kind == nullptr || !paths.isEmpty()) return WrongUse;
+    if (kind == nullptr) return WrongUse;
+    if (!paths.isEmpty()) {
+        console.complaints.line("lcdcheck: only --new root takes a folder");
+        return WrongUse;
+    }
     print(writeSkeleton(grammarOf(kind->kind)), console);
     return Good;
 }

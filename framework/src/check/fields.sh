@@ -5,7 +5,9 @@ set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-if [[ $1 == --compare ]] && ! command -v doxygen python3 >/dev/null; then exit 77; fi
+for program in doxygen python3; do
+    if [[ $1 == --compare ]] && ! command -v "$program" >/dev/null; then exit 77; fi
+done
 
 cd "$here/../../.."
 {
