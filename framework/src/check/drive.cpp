@@ -134,6 +134,8 @@ bool read(FileKind kind, const Stage& stage)
         return KeyCheckConfig().readConfig(stage.path("keycheck"), unused);
     case FileKind::LockArea:
         return LockAreaConfig().readConfig(file, unused);
+    case FileKind::Settings:
+        return false;
     }
     return false;
 }
