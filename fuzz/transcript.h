@@ -20,7 +20,6 @@ public:
     void add(const QString& text) { add(text.toUtf8()); }
     void add(const std::string& text) { add(QByteArray::fromStdString(text)); }
     void add(const QByteArray& text) { _text += text + '\n'; }
-    void add(double number) { _text += QByteArray::number(number, 'g', 17) + '\n'; }
     template <class Record> void add(const std::shared_ptr<Record>& record)
     {
         if (record) return add(*record);
@@ -31,6 +30,8 @@ public:
     {
         if constexpr (std::is_enum_v<Value> || std::is_integral_v<Value>) {
             _text += QByteArray::number(static_cast<qint64>(value)) + '\n';
+        } else if constexpr (std::is_floating_point_v<Value>) {
+            _text += QByteArray::number(double(value), 'g', 17) + '\n';
         } else if constexpr (requires { value.begin(); }) {
             _text += "[\n";
             for (const auto& entry : value) add(entry);

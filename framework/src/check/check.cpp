@@ -185,7 +185,7 @@ void RootCheck::judgeSettings()
     const Silence silence;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return;
-    const IniSource source = IniSource::read(file.readAll());
+    const IniSource source = IniSource::read(file.read(Source::MOST_BYTES));
     heard.ask(*_panel.loaded(_root).settings, source);
     heard.judge(path, source, _out.findings);
 }
