@@ -5,12 +5,11 @@
 set -euo pipefail
 many=
 [[ $1 == --many ]] && many=1 && shift
-host=$1 check=$2
+host=$1 check=$2 limit=${3:-unlimited}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 root=$work/root
 "$check" --new root "$root" >"$work/out"
-ulimit -v "${3:-unlimited}"
 
 places="devices/device/feature.xml devices/device/slot.xml subcards/inputs/1.xml connectors/1.xml
     connectors/resolutionratio.xml menu/menuconfig.xml fnbutton/fnkeyboardconfig.xml keycheck/keyboardchecklist.xml
@@ -29,12 +28,12 @@ make() {
     esac
 }
 
-# names PLACE ODDITY COMMAND...: the command fails in time and names the place.
+# names PLACE ODDITY COMMAND...: the command fails in time and names the place, or its folder.
 names() {
     local status=0
-    timeout 60 "${@:3}" >"$work/out" 2>&1 || status=$?
-    if ((status != 1)) || ! grep -q "$(basename "${1%.*}")" "$work/out"; then
-        echo "${*:3} with a $2 as $1: status $status" && cat "$work/out" && ${KEEP_GOING:-exit 1}
+    (ulimit -v "$limit" && exec timeout 60 "${@:3}") >"$work/out" 2>&1 || status=$?
+    if ((status != 1)) || ! grep -qE "$(basename "${1%.*}")|$root/${1%/*}\$" "$work/out"; then
+        echo "${*:3} with a $2 as $1: status $status" && cat "$work/out" && exit 1
     fi
 }
 
