@@ -228,7 +228,9 @@ Expectations expectationsOfFile(const QString& path, bool asSettings)
     if (!lcdcommon::whyNoFile(path).isEmpty()) return {};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = file.readAll();
+    // Nobody reads a larger one.
+    const QByteArray bytes = file.read(Source::MOST_BYTES);
+    if (!file.atEnd()) return {};
     const bool wide = bytes.contains('\0');
     if (!(wide ? QByteArray(bytes).replace(QByteArray(1, '\0'), QByteArray()) : bytes).contains(word)) return {};
     return asSettings || isIni(path) ? expectationsOfIni(bytes) : expectationsOfXml(bytes);
