@@ -11,6 +11,7 @@
 #include "subcardconfig.h"
 
 #include <kpmsdk/api.h>
+#include <lcdmainconfig/components.h>
 
 #include <QDir>
 #include <QTemporaryDir>
