@@ -19,32 +19,32 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME lcdmainconfig)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "configuration model of a front panel: plug-in
- Reads what a video processor, its cards, its connectors and its front panel
- can do from XML capability files, and keeps the settings of the panel.
- .
- This package holds the plug-in that the panel application loads.")
+Reads what a video processor, its cards, its connectors and its front panel
+can do from XML capability files, and keeps the settings of the panel.
+.
+This package holds the plug-in that the panel application loads.")
 
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME lcdmainconfig-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "lcdmainconfig ${exact}, qtbase5-dev (>= 5.15)")
 set(CPACK_DEBIAN_DEV_DESCRIPTION "configuration model of a front panel: development
- Headers of the records and interfaces, a small component host as a static
- library, and what CMake and pkg-config need to find them.")
+Headers of the records and interfaces, a small component host as a static
+library, and what CMake and pkg-config need to find them.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME lcdmainconfig-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "lcdmainconfig ${exact}")
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "configuration model of a front panel: programs
- The program lcdhost shows what a configuration says, lcdcheck tells its
- authors where it is wrong, and what that costs.")
+The program lcdhost shows what a configuration says, lcdcheck tells its
+authors where it is wrong, and what that costs.")
 
 set(CPACK_DEBIAN_DOC_PACKAGE_NAME lcdmainconfig-doc)
 set(CPACK_DEBIAN_DOC_PACKAGE_SECTION doc)
 set(CPACK_DEBIAN_DOC_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_DOC_DESCRIPTION "configuration model of a front panel: documents
- What a host does, what the configuration files may hold, a complete example
- configuration, and a small panel application.")
+What a host does, what the configuration files may hold, a complete example
+configuration, and a small panel application.")
 
 # What every package says of itself.
 find_program(GZIP gzip REQUIRED)
