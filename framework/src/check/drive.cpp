@@ -12,6 +12,7 @@
 #include "subcardconfig.h"
 
 #include <kpmsdk/api.h>
+#include <lcdmainconfig/components.h>
 
 #include <QDir>
 #include <QTemporaryDir>

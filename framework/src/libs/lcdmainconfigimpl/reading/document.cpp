@@ -31,8 +31,10 @@ bool parseFile(const QString& path, const QString& shownPath, const Frame& frame
         if (report.listener != nullptr) report.listener->parsed(path, frame, document);
         return true;
     }
-    report.error =
-        report.say("Parse error at line %1, column %2:\n%3").arg(failure.line).arg(failure.column).arg(failure.message);
+    report.error = report.say(QT_TRANSLATE_NOOP("reading", "Parse error at line %1, column %2:\n%3"))
+                       .arg(failure.line)
+                       .arg(failure.column)
+                       .arg(failure.message);
     return isReadAnyway(path, frame, report, Refusal::NotWellFormed, document, failure);
 }
 
