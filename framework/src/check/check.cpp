@@ -86,6 +86,7 @@ private:
     [[nodiscard]] bool isConsequence(const Folder& folder, const QFileInfo& file);
     void loadUnread(Catalogue catalogue, FileKind kind);
     [[nodiscard]] bool knowsCards() const;
+    [[nodiscard]] bool lacksCards() const;
     void judgeDevices();
     void judgeSettings();
     Finding& add(const char* id, const QString& path, const QString& message);
@@ -234,6 +235,18 @@ bool RootCheck::knowsCards() const
     return !_collected.all(fieldOf<Lcd::s_InlineSubcard>(&Lcd::s_InlineSubcard::moduleId)).empty();
 }
 
+/// Whether some card is missing or was not read to its end, so that nobody knows which connectors it has.
+bool RootCheck::lacksCards() const
+{
+    const auto isCut = [](const CollectedFile& file) {
+        return !file.whole && kindsByPlace(file.path) == std::vector{FileKind::Card};
+    };
+    return _collected.all(fieldOf<Lcd::s_Subcard>(&Lcd::s_Subcard::modelId)).empty() ||
+           std::any_of(_collected.files().begin(), _collected.files().end(), isCut) ||
+           std::any_of(_out.findings.begin(), _out.findings.end(),
+                       [](const Finding& finding) { return finding.kind == kindOf("missing-card"); });
+}
+
 /// Whether a file is unread because of a mistake that is told already: a number that leads nowhere and was probably
 /// meant to lead here, or a card that is unread itself and would have led here.
 bool RootCheck::isConsequence(const Folder& folder, const QFileInfo& file)
@@ -241,6 +254,7 @@ bool RootCheck::isConsequence(const Folder& folder, const QFileInfo& file)
     if (folder.catalogue == Catalogue::Connectors && _typesOfUnread.count(file.baseName().toLongLong()) != 0)
         return true;
     const bool card = folder.catalogue == Catalogue::Cards;
+    if (folder.catalogue == Catalogue::Connectors && lacksCards()) return true;
     if (!knowsCards() && (card || folder.catalogue == Catalogue::Connectors)) return true;
     if (!card && folder.catalogue != Catalogue::Connectors) return false;
     const QString id = card ? "missing-card" : "missing-connector-type";

@@ -45,7 +45,7 @@ bool CollectedFile::isWithin(int element, int ancestor) const
 
 void Collected::add(const HeardFile& file)
 {
-    CollectedFile kept{file.path, {}, {}, {}, file.refusals.empty()};
+    CollectedFile kept{file.path, {}, {}, {}, !file.isCut(0)};
     const int number = int(_files.size());
     for (std::size_t element = 0; element < file.elements.size(); ++element) {
         const Source::Element& written = file.source.elements()[element];

@@ -29,7 +29,7 @@ struct CollectedFile {
     std::vector<int> parents;  ///< Of each element; -1 for the root.
     std::vector<QString> tags; ///< Of each element, as it was read.
     std::vector<Place> places; ///< Of the start tag of each element.
-    bool whole = true;         ///< False: something of it is not known, since it could not be read.
+    bool whole = true;         ///< False: it could not be read to its end, so that it may hold anything.
 
     /// The tags from the root to an element.
     [[nodiscard]] QString pathOf(int element) const;

@@ -241,17 +241,23 @@ void applyExpectations(Findings& findings, const Request& request)
     struct File {
         QString path;
         bool alone = false;
+        bool unread = false;
         Expectations expectations;
     };
     std::map<QString, File> files;
     for (const QString& root : request.roots)
-        for (const QString& path : filesOfRoot(root)) files.try_emplace(QDir::cleanPath(path), File{path, false, {}});
-    for (const QString& path : request.files) files.try_emplace(QDir::cleanPath(path), File{path, true, {}});
+        for (const QString& path : filesOfRoot(root))
+            files.try_emplace(QDir::cleanPath(path), File{path, false, false, {}});
+    for (const QString& path : request.files) files.try_emplace(QDir::cleanPath(path), File{path, true, false, {}});
     for (const Finding& finding : findings)
-        files.try_emplace(QDir::cleanPath(finding.file), File{finding.file, request.roots.isEmpty(), {}});
+        files.try_emplace(QDir::cleanPath(finding.file), File{finding.file, request.roots.isEmpty(), false, {}});
     for (auto& [key, file] : files)
         file.expectations =
             expectationsOfFile(file.path, file.alone && request.kind == infoOf(FileKind::Settings).name);
+
+    // Of a file that nobody reads, nothing can be found.
+    for (const Finding& finding : findings)
+        if (finding.kind == kindOf("unread-file")) files.at(QDir::cleanPath(finding.file)).unread = true;
 
     const auto expected = [&files](const Finding& finding) {
         return isExpected(files.at(QDir::cleanPath(finding.file)).expectations, finding);
@@ -259,7 +265,8 @@ void applyExpectations(Findings& findings, const Request& request)
     findings.erase(std::remove_if(findings.begin(), findings.end(), expected), findings.end());
     for (const auto& [key, file] : files)
         for (const Expectation& each : file.expectations)
-            if (!each.used && !(file.alone && needsRoot(each.kind))) findings.push_back(unusedFinding(each, file.path));
+            if (!each.used && !file.unread && !(file.alone && needsRoot(each.kind)))
+                findings.push_back(unusedFinding(each, file.path));
 }
 
 } // namespace lcdcheck

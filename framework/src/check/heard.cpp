@@ -85,6 +85,13 @@ bool HeardFile::isFaulty(const Source::Attribute& attribute) const
     return std::any_of(source.faults().begin(), source.faults().end(), touches);
 }
 
+bool HeardFile::isCut(int element) const
+{
+    const auto isOpen = [](const Source::Element& written) { return !written.selfClosed && written.endTag.isEmpty(); };
+    const std::vector<Source::Element>& all = source.elements();
+    return all.empty() || (isOpen(all.front()) && isOpen(all[std::size_t(element)]));
+}
+
 // --- Files
 
 void Hearing::finish()
@@ -155,6 +162,8 @@ bool Hearing::refused(const QString& path, const reading::Frame& frame, Refusal 
     const bool known = std::any_of(_file.refusals.begin(), _file.refusals.end(),
                                    [why](const Refused& refusal) { return refusal.why == why; });
     if (!known) _file.refusals.push_back({why, failure});
+    // What stands below another root is judged as if the root were right.
+    if (why == Refusal::WrongRoot && !_file.elements.empty()) _file.elements[0].meant = frame.rootTag;
     if (!opened) document = recovered(frame);
     return true;
 }
@@ -211,13 +220,19 @@ QDomElement Hearing::putIn(int parent, const QString& tag)
     return element;
 }
 
-void Hearing::miss(int parent, const QString& tag, OnNull cost, const bool* scope)
+Missing Hearing::missing(int parent, const QString& tag, OnNull cost, const bool* scope) const
 {
     Missing missing{parent, tag, cost, _scopes.value(scope, -1)};
     if (missing.scope == 0) missing.scope = -1;
     missing.entry = missing.scope >= 0 && !_file.elements[std::size_t(missing.scope)].visits.empty();
-    const bool known = std::any_of(_file.missing.begin(), _file.missing.end(),
-                                   [&](const Missing& other) { return other.parent == parent && other.tag == tag; });
+    return missing;
+}
+
+void Hearing::miss(const Missing& missing)
+{
+    const bool known = std::any_of(_file.missing.begin(), _file.missing.end(), [&](const Missing& other) {
+        return other.parent == missing.parent && other.tag == missing.tag;
+    });
     if (!known) _file.missing.push_back(missing);
 }
 
@@ -230,7 +245,13 @@ QDomElement Hearing::child(const QDomElement& parent, const QString& tag, OnNull
         HeardElement& above = _file.elements[std::size_t(index)];
         above.read = _file.wasRead = true;
         above.children.push_back({tag, indexOf(element)});
-        if (element.isNull() && cost != OnNull::Skip && cost != OnNull::ReadDefaults) miss(index, tag, cost, scope);
+        if (found.isNull() && cost != OnNull::Skip && cost != OnNull::ReadDefaults) {
+            HeardElement* const stranger = heardOf(element);
+            if (stranger != nullptr)
+                stranger->lack = missing(index, tag, cost, scope);
+            else
+                miss(missing(index, tag, cost, scope));
+        }
     }
     if (HeardElement* const heard = heardOf(element)) heard->found = true;
     return element.isNull() && fails(cost) ? putIn(index, tag) : element;
@@ -254,7 +275,7 @@ bool Hearing::failed(const QDomElement& element, const QString& tag, const bool*
     const bool tested = !heard->children.empty() && heard->children.back().tested;
     // A reader that ends because something is there has its reasons.
     if (tested && heard->children.back().element >= 0) return false;
-    miss(indexOf(element), tested ? heard->children.back().tag : tag, OnNull::Fail, scope);
+    miss(missing(indexOf(element), tested ? heard->children.back().tag : tag, OnNull::Fail, scope));
     return true;
 }
 

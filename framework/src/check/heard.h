@@ -13,6 +13,7 @@
 #include <compare>
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <typeindex>
 #include <vector>
 
@@ -70,6 +71,15 @@ struct HeardWalk {
     QString tag;
 };
 
+/// A child that was looked up in vain and whose absence costs something.
+struct Missing {
+    int parent = -1;
+    QString tag;
+    reading::OnNull cost = reading::OnNull::Note;
+    int scope = -1;     ///< The element that is lost with it; -1: the file.
+    bool entry = false; ///< The scope is an entry of a list.
+};
+
 struct HeardElement {
     bool found = false; ///< A look-up or a walk has come to it.
     bool read = false;  ///< Something in it was asked for. What nobody reads can hold anything.
@@ -80,17 +90,9 @@ struct HeardElement {
     QStringList testedTags;        ///< Tags that its own was compared with, up to the one that it has.
     bool tagFits = false;          ///< It had one of them.
     QString meant;                 ///< The tag under which it was read, where that is not its own.
+    std::optional<Missing> lack;   ///< What the panel misses since the tag is another, where that costs something.
 
     [[nodiscard]] const HeardAttribute* attribute(const QString& name) const;
-};
-
-/// A child that was looked up in vain and whose absence costs something.
-struct Missing {
-    int parent = -1;
-    QString tag;
-    reading::OnNull cost = reading::OnNull::Note;
-    int scope = -1;     ///< The element that is lost with it; -1: the file.
-    bool entry = false; ///< The scope is an entry of a list.
 };
 
 /// Why a file was not read, or not as it stands.
@@ -114,6 +116,9 @@ struct HeardFile {
     [[nodiscard]] QString tagOf(int element) const;
     /// Whether the syntax is at fault in an attribute, so that its value tells nothing.
     [[nodiscard]] bool isFaulty(const Source::Attribute& attribute) const;
+    /// Whether the text ends before an element does, so that nobody knows what else was to stand in it. Of the root it
+    /// tells whether the file is cut off.
+    [[nodiscard]] bool isCut(int element) const;
 };
 
 /// The names that a place of a file may hold. It is asked only where something is missing.
@@ -171,7 +176,8 @@ private:
     [[nodiscard]] HeardElement* heardOf(const QDomElement& element);
     [[nodiscard]] Field fieldAt(const reading::Asked& asked) const;
     [[nodiscard]] Field around(const reading::Location& location) const;
-    void miss(int parent, const QString& tag, reading::OnNull cost, const bool* scope);
+    [[nodiscard]] Missing missing(int parent, const QString& tag, reading::OnNull cost, const bool* scope) const;
+    void miss(const Missing& missing);
     [[nodiscard]] QDomElement putIn(int parent, const QString& tag);
     [[nodiscard]] bool isStranger(int parent, const QString& tag);
     QDomElement adopt(const QDomElement& parent, int index, const QString& tag);

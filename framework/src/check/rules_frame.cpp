@@ -51,9 +51,9 @@ void judgeFaults(const HeardFile& file, FileJudge& judge)
 {
     for (const Source::Fault& fault : file.source.faults()) {
         const bool encoding = fault.kind == Source::Fault::Kind::Encoding;
-        if (!encoding && !fault.fatal) continue;
+        if (fault.kind == Source::Fault::Kind::Misread) continue;
         Finding& finding = judge.at(encoding ? "bad-encoding" : "not-well-formed", fault.place, fault.message);
-        if (!encoding) finding.cost = file.cost;
+        if (!encoding) finding.cost = fault.fatal ? file.cost : "the panel reads on, other programs refuse the file";
     }
 }
 
@@ -85,9 +85,10 @@ void judgeRefusal(const HeardFile& file, const Refused& refused, FileJudge& judg
     case Refusal::WrongRoot: {
         if (source.elements().empty()) break;
         const QString wanted = file.frame->rootTag;
+        const QString found = localName(source.slice(source.elements()[0].name)).toString();
         Finding& finding = judge.about(
-            "wrong-root", 0, QString("the root is %1, where %2 is wanted").arg(quoted(file.tagOf(0)), quoted(wanted)));
-        finding.hint = didYouMean(file.tagOf(0), {wanted});
+            "wrong-root", 0, QString("the root is %1, where %2 is wanted").arg(quoted(found), quoted(wanted)));
+        finding.hint = didYouMean(found, {wanted});
         finding.cost = file.cost;
         break;
     }

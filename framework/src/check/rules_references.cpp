@@ -1,5 +1,6 @@
 // What one file says of another: slots of cards, cards of connector types, screens of layers, cells of connectors.
 #include "rules.h"
+#include "vocabulary.h"
 
 #include <lcdmainconfig/connector.h>
 #include <lcdmainconfig/device.h>
@@ -49,18 +50,27 @@ const Field POSITIONS[] = {
 // clang-format on
 
 /// The numbers of some things. One that could not be read may be any number, and then nothing is missing for certain.
+/// Of two with one number, the other was probably meant to have a number that is missing.
 struct Numbers {
     std::set<qlonglong> known;
+    int doubles = 0;
     bool certain = true;
 
     void add(const Value& value)
     {
-        if (value.good)
-            known.insert(value.number());
-        else
+        if (!value.good)
             certain = false;
+        else if (!known.insert(value.number()).second)
+            ++doubles;
     }
-    [[nodiscard]] bool lacks(qlonglong number) const { return certain && known.count(number) == 0; }
+    [[nodiscard]] bool lacks(qlonglong number)
+    {
+        if (!certain || known.count(number) != 0) return false;
+        if (doubles == 0) return true;
+        --doubles;
+        known.insert(number);
+        return false;
+    }
 };
 
 class References {
@@ -68,6 +78,8 @@ public:
     References(const Collected& collected, Findings& findings) : _collected(collected), _judge(collected, findings) {}
 
     void gather();
+    void gatherNamedFiles(const Field& field, FileKind kind, Numbers& numbers);
+    void gatherPositions();
     void judgeCards();
     void judgeConnectorTypes();
     void judgeLayers();
@@ -93,21 +105,65 @@ private:
 
 void References::gather()
 {
-    for (const Value& value : _collected.all(CARD)) _cards.add(value);
-    for (const Value& value : _collected.all(CONNECTOR_TYPE)) _connectorTypes.add(value);
+    gatherNamedFiles(CARD, FileKind::Card, _cards);
+    gatherNamedFiles(CONNECTOR_TYPE, FileKind::Connector, _connectorTypes);
     for (const Value& value : _collected.all(LAYER)) _layers[deviceOf(value)].add(value);
     for (const Value& value : _collected.all(SLOT)) _slots[deviceOf(value)].add(value);
-    for (const Value& value : _collected.all(POSITION))
-        if (const Value* const card = cardOf(value); card != nullptr && !isOfGroup(value))
-            _positions[card->number()].add(value);
+    gatherPositions();
     for (const Value& value : _collected.all(MODULE))
         if (const Value* const slot = _collected.above(value, SLOT))
             _modules[{deviceOf(value), slot->number()}].push_back(value);
-    // A file that can't be read may hold anything that its folder holds.
     for (const CollectedFile& file : _collected.files()) {
         if (file.whole) continue;
+        const std::vector<FileKind> kinds = kindsByPlace(file.path);
+        const auto mayBe = [&](FileKind kind) { return std::find(kinds.begin(), kinds.end(), kind) != kinds.end(); };
         const QString device = QFileInfo(file.path).path();
-        _slots[device].certain = _slots[device].certain && !_collected.all(SLOT).empty();
+        if (mayBe(FileKind::Slot)) _slots[device].certain = false;
+        if (mayBe(FileKind::Layer)) _layers[device].certain = false;
+    }
+}
+
+/// Things of which each has a file that is named for its number. Where a file is cut off, or tells a number that
+/// another one has, its name tells the number that it should have.
+void References::gatherNamedFiles(const Field& field, FileKind kind, Numbers& numbers)
+{
+    const auto addNamed = [&](const CollectedFile& file) {
+        bool isNumber = false;
+        const qlonglong number = QFileInfo(file.path).baseName().toLongLong(&isNumber);
+        if (isNumber) numbers.known.insert(number);
+    };
+    for (const Value& value : _collected.all(field)) {
+        if (value.good && numbers.known.count(value.number()) != 0)
+            addNamed(_collected.fileOf(value));
+        else
+            numbers.add(value);
+    }
+    for (const CollectedFile& file : _collected.files()) {
+        if (file.whole) continue;
+        const std::vector<FileKind> kinds = kindsByPlace(file.path);
+        if (std::find(kinds.begin(), kinds.end(), kind) != kinds.end()) addNamed(file);
+    }
+    // Where there is none at all, their folder is at fault, which is told.
+    numbers.certain = numbers.certain && !numbers.known.empty();
+}
+
+void References::gatherPositions()
+{
+    // A model may have several files, each with all positions.
+    std::map<std::pair<int, int>, Numbers> cards;
+    for (const Value& value : _collected.all(POSITION)) {
+        const Value* const card = cardOf(value);
+        if (card == nullptr || isOfGroup(value)) continue;
+        Numbers& numbers = cards[{card->file, card->element}];
+        numbers.add(value);
+        numbers.certain = numbers.certain && _collected.fileOf(value).whole;
+    }
+    for (const Value& card : _collected.all(CARD)) {
+        const Numbers& own = cards[{card.file, card.element}];
+        Numbers& all = _positions[card.number()];
+        all.known.insert(own.known.begin(), own.known.end());
+        all.doubles += own.doubles;
+        all.certain = all.certain && own.certain;
     }
 }
 
@@ -152,7 +208,9 @@ void References::judgeSpots(const Field& slotField, const Field& connectorField)
 {
     for (const Value& slot : _collected.all(slotField)) {
         if (!slot.good || !slot.present) continue;
-        if (_slots[deviceOf(slot)].lacks(slot.number())) {
+        // Without a slot file, which is a mistake by itself, there is nothing to compare with.
+        Numbers& known = _slots[deviceOf(slot)];
+        if (!known.known.empty() && known.lacks(slot.number())) {
             _judge.about("missing-slot", slot, QString("this device has no slot %1").arg(slot.number()));
             continue;
         }

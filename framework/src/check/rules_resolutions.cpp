@@ -20,6 +20,7 @@ const Field HEIGHT         = fieldOf<s_resolutionResolutionRatio>(&s_resolutionR
 const Field CONNECTOR_MODE = fieldOf<s_CapacityModeInInterface>(&s_CapacityModeInInterface::value);
 const Field DEFAULT_WIDTH  = fieldOf<s_ResolutionRatio>(&s_ResolutionRatio::width, &s_RangeValue::value);
 const Field DEFAULT_HEIGHT = fieldOf<s_ResolutionRatio>(&s_ResolutionRatio::height, &s_RangeValue::value);
+const Field INTERFACE      = fieldOf<s_Interface>(&s_Interface::type);
 const Field CONNECTOR      = fieldOf<s_ConnectorCfg>(&s_ConnectorCfg::type);
 const Field CARD_TYPE      = fieldOf<s_SubcardConnector>(&s_SubcardConnector::type);
 const Field CARD_MASK      = fieldOf<s_SubcardConnector>(&s_SubcardConnector::interfaceType);
@@ -64,7 +65,7 @@ void Resolutions::gather()
         const Value* const mode = _collected.above(width, STANDARD_MODE);
         if (mode == nullptr) continue;
         const Value* const height = on(width, HEIGHT);
-        _certain = _certain && width.good && mode->good && height != nullptr;
+        _certain = _certain && width.good && mode->good && height != nullptr && _collected.fileOf(width).whole;
         if (!width.good || height == nullptr) continue;
         const auto [known, added] = _offered.insert({{width.number(), height->number()}, mode->number()});
         if (!added) known->second = std::min(known->second, mode->number());
@@ -120,8 +121,11 @@ void Resolutions::judgeDefaults()
 void Resolutions::judgeOffers(const Loaded& loaded)
 {
     std::set<qlonglong> types;
+    std::set<int> uncertain;
+    for (const Value& interface : _collected.all(INTERFACE))
+        if (!interface.good) uncertain.insert(interface.file);
     for (const Value& type : _collected.all(CONNECTOR))
-        if (type.good) types.insert(type.number());
+        if (type.good && uncertain.count(type.file) == 0) types.insert(type.number());
     std::set<std::tuple<qlonglong, qlonglong, qlonglong>> told;
     for (const Value& type : _collected.all(CARD_TYPE)) {
         const Value* const mask = on(type, CARD_MASK);
@@ -145,7 +149,7 @@ void Resolutions::judgeOffers(const Loaded& loaded)
 std::set<Field> fieldsOfResolutions()
 {
     return {STANDARD_MODE, WIDTH,     HEIGHT,    CONNECTOR_MODE, DEFAULT_WIDTH, DEFAULT_HEIGHT,
-            CONNECTOR,     CARD_TYPE, CARD_MASK, CARD_MODE,      GROUP};
+            INTERFACE,     CONNECTOR, CARD_TYPE, CARD_MASK,      CARD_MODE,     GROUP};
 }
 
 void judgeResolutions(const Collected& collected, const Loaded& loaded, Findings& findings)

@@ -13,11 +13,24 @@
 namespace lcdcheck {
 namespace {
 
+const QRegularExpression& rowOfArray()
+{
+    static const QRegularExpression row("/[0-9]+/");
+    return row;
+}
+
 /// The key under which an entry is asked for: rows of an array are all alike.
 QString pattern(QString key)
 {
-    static const QRegularExpression row("/[0-9]+/");
-    return key.replace(row, "/1/");
+    return key.replace(rowOfArray(), "/1/");
+}
+
+/// What a getter makes of a whole number that its type can't hold; empty for any other text.
+QString storedOf(const IniEntry& entry)
+{
+    bool isNumber = false;
+    const qlonglong number = entry.value.toLongLong(&isNumber);
+    return isNumber && number != int(number) ? QString::number(int(number)) : QString();
 }
 
 } // namespace
@@ -51,6 +64,10 @@ void judgeSettings(const QString& path, const QByteArray& text, Findings& findin
             add("duplicate-attribute", entry.place, entry.key,
                 QString("%1 stands on line %2 already; the last one counts").arg(quoted(entry.key)).arg(line));
         lines.insert(entry.key, entry.place.line);
+        const QString stored = storedOf(entry);
+        // The rows of an array whose size is no number are not asked for.
+        if (const int row = entry.key.indexOf(rowOfArray()); row >= 0 && bad.contains(entry.key.left(row) + "/size"))
+            continue;
         if (!known.contains(pattern(entry.key))) {
             Finding& finding =
                 add("unknown-key", entry.place, entry.key, QString("nobody reads %1").arg(quoted(entry.key)));
@@ -64,6 +81,10 @@ void judgeSettings(const QString& path, const QByteArray& text, Findings& findin
                     : QString("%1 wants a whole number, and %2 is none").arg(quoted(entry.key), quoted(entry.value)));
             finding.cost = isText ? "an empty text is read" : "0 is read";
             if (isText) finding.hint = "put quotes around a text with a comma";
+        } else if (known.value(pattern(entry.key)) == reading::Kind::Int && !stored.isEmpty()) {
+            add("not-a-number", entry.place, entry.key,
+                QString("%1 wants a whole number, and %2 is too large").arg(quoted(entry.key), quoted(entry.value)))
+                .cost = QString("%1 is read").arg(stored);
         }
     }
 }

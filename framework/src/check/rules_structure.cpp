@@ -83,6 +83,8 @@ private:
     void unread(const Spot& spot);
     void unknown(const Spot& spot, const QStringList& names);
     void unexpected(const Spot& spot);
+    void unlikeOthers(const Spot& spot);
+    [[nodiscard]] bool isMisplaced(const Spot& spot) const;
     [[nodiscard]] QString costOf(const Missing& missing) const;
 
     const HeardFile& _file;
@@ -135,14 +137,16 @@ void Structure::unknown(const Spot& spot, const QStringList& names)
     if (finding.hint.isEmpty() && _vocabulary != nullptr)
         if (const QString home = _vocabulary->homeOfElement(_file.path, spot.tagAsWritten()); !home.isEmpty())
             finding.hint = QString("%1 belongs under %2").arg(quoted(spot.tagAsWritten()), quoted(home));
-    finding.cost = "it is ignored with all that it holds";
+    const std::optional<Missing>& lack = spot.heard().lack;
+    finding.cost = lack ? costOf(*lack) : "it is ignored with all that it holds";
 }
 
 void Structure::unexpected(const Spot& spot)
 {
     const HeardElement& heard = spot.heard();
     const auto takes = [&](const HeardWalk& visit) { return visit.tag.isEmpty() || visit.tag == spot.tag(); };
-    if (heard.visits.empty() || std::any_of(heard.visits.begin(), heard.visits.end(), takes)) return;
+    if (heard.visits.empty()) return;
+    if (std::any_of(heard.visits.begin(), heard.visits.end(), takes)) return unlikeOthers(spot);
     const HeardElement& parent = _file.elements[std::size_t(spot.written().parent)];
     const bool wanted = std::any_of(parent.children.begin(), parent.children.end(),
                                     [&](const HeardChild& child) { return child.element == spot.index; });
@@ -154,10 +158,45 @@ void Structure::unexpected(const Spot& spot)
         wanted ? QString("put it in front of the first %1").arg(quoted(entry)) : didYouMean(spot.tag(), {entry});
 }
 
+/// Some lists take every element, so that no tag is wrong there. One that is nearly that of all others is a slip.
+void Structure::unlikeOthers(const Spot& spot)
+{
+    QString usual;
+    int others = 0;
+    const auto& elements = _file.source.elements();
+    for (int index = spot.written().parent + 1; index < int(elements.size()); ++index) {
+        const Spot other{_file, index};
+        if (other.written().parent < spot.written().parent) break;
+        if (other.written().parent != spot.written().parent || index == spot.index || other.heard().visits.empty())
+            continue;
+        if (other.tag() == spot.tag() || (others > 0 && other.tag() != usual)) return;
+        usual = other.tag();
+        ++others;
+    }
+    constexpr int FEW = 2;
+    if (others < FEW || isWanted(spot)) return;
+    const QString hint = didYouMean(spot.tag(), {usual});
+    if (hint.isEmpty()) return;
+    _judge
+        .about("unexpected-tag", spot.index,
+               QString("the list of %1 takes this %2 as an entry").arg(quoted(usual), quoted(spot.tag())))
+        .hint = hint;
+}
+
+/// Whether an element became an entry of a list that it was not meant for.
+bool Structure::isMisplaced(const Spot& spot) const
+{
+    const auto& visits = spot.heard().visits;
+    return !visits.empty() && std::all_of(visits.begin(), visits.end(), [&](const HeardWalk& visit) {
+        return !visit.tag.isEmpty() && visit.tag != spot.tag() && didYouMean(spot.tag(), {visit.tag}).isEmpty();
+    });
+}
+
 void Structure::judgeAttributes(const Spot& spot)
 {
     const HeardElement& heard = spot.heard();
-    if (!heard.read) return;
+    // What is no entry has no attributes of one.
+    if (!heard.read || isMisplaced(spot)) return;
     QStringList absent;
     QStringList present;
     for (const HeardAttribute& asked : heard.attributes) (asked.present ? present : absent).append(asked.name);
@@ -214,7 +253,8 @@ void judgeStructure(const HeardFile& file, const Vocabulary* vocabulary, Finding
     // Another root with other things below is another kind of file, which is one mistake and not a hundred.
     if (otherRoot && alien) return;
     Structure structure(file, vocabulary, findings);
-    for (const Missing& missing : file.missing) structure.judgeMissing(missing);
+    for (const Missing& missing : file.missing)
+        if (!file.isCut(missing.parent)) structure.judgeMissing(missing);
     for (int index = 0; index < int(file.elements.size()); ++index) {
         const Spot spot{file, index};
         structure.judgeElement(spot);

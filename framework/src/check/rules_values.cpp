@@ -95,7 +95,8 @@ void Values::judgeNumbers(int element)
 Number Values::number(int element, const QString& name) const
 {
     const HeardAttribute* const asked = heard(element).attribute(name);
-    if (asked == nullptr || !asked->present || !asked->good) return {};
+    // The limits of a text are those of its length.
+    if (asked == nullptr || !asked->present || !asked->good || !isNumber(asked->kind)) return {};
     const Source& source = _file.source;
     const Source::Attribute* const written = source.attribute(source.elements()[std::size_t(element)], name);
     if (written != nullptr && _file.isFaulty(*written)) return {};

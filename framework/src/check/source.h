@@ -61,7 +61,8 @@ public:
     };
 
     struct Fault {
-        enum class Kind { Syntax, Encoding };
+        /// What is misread is well-formed, but the panel's parser makes something else of it.
+        enum class Kind { Syntax, Encoding, Misread };
         Place place;
         QString message; ///< One line, without a full stop.
         Kind kind = Kind::Syntax;

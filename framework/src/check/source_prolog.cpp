@@ -211,9 +211,8 @@ bool SourceScanner::reference(int position, bool inAttribute)
             fault(span, QStringLiteral("\"%1\" is no character of XML").arg(shown(span)),
                   code == std::numeric_limits<uint>::max());
         else if (code > 0xFFFF)
-            fault(span,
-                  QStringLiteral("\"%1\" is read as another character, written itself it is read").arg(shown(span)),
-                  false);
+            misread(span,
+                    QStringLiteral("\"%1\" is read as another character, written itself it is read").arg(shown(span)));
         return false;
     }
     const auto entity = _source._entities.find(found.name.toString());
@@ -223,8 +222,11 @@ bool SourceScanner::reference(int position, bool inAttribute)
     }
     measure(*entity, 0);
     if (entity->external) {
-        fault(span, QStringLiteral("the entity \"%1\" is in another file, it is left out").arg(shown(span)),
-              inAttribute);
+        const QString message = QStringLiteral("the entity \"%1\" is in another file, it is left out").arg(shown(span));
+        if (inAttribute)
+            fault(span, message);
+        else
+            misread(span, message);
         return false;
     }
     if (entity->state != State::Usable) {

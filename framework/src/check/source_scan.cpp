@@ -276,6 +276,11 @@ Source::Fault* SourceScanner::fault(Span span, const QString& message, bool fata
     return &_source._faults.back();
 }
 
+void SourceScanner::misread(Span span, const QString& message)
+{
+    if (Source::Fault* const made = fault(span, message, false)) made->kind = Source::Fault::Kind::Misread;
+}
+
 void SourceScanner::fault(Span span, const QString& message, const Source::Element& opened)
 {
     if (Source::Fault* const made = fault(span, message)) made->opened = _source.place(opened);

@@ -107,6 +107,7 @@ private:
     [[nodiscard]] QString shown(const Source::Element& element) const { return shown(element.name); }
     [[nodiscard]] int lineOf(const Source::Element& element) const { return _source.place(element).line; }
     Source::Fault* fault(Span span, const QString& message, bool fatal = true);
+    void misread(Span span, const QString& message);
     void fault(Span span, const QString& message, const Source::Element& opened);
     Source::Element& elementOf(const Open& open) { return _source._elements[size_t(open.element)]; }
     [[nodiscard]] const Source::Element& elementOf(const Open& open) const
