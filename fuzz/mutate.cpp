@@ -233,7 +233,7 @@ QByteArray mutateDocument(FileKind kind, const QByteArray& content, std::minstd_
 
 QByteArray anyName(std::minstd_rand& random)
 {
-    const auto& kinds = lcdcheck::fileKinds();
+    const auto& kinds = lcdcheck::xmlKinds();
     const std::size_t choice = random() % (kinds.size() + 2);
     if (choice < kinds.size()) return kinds[choice].name;
     return choice == kinds.size() ? FACTORY_SETTINGS : USER_SETTINGS;

@@ -58,7 +58,7 @@ void writeSeeds(const QString& example, const QString& folder)
     const QByteArray settings = read(QDir(example).filePath("settings/lcdsetting.ini"));
     writeSeed(folder, "settings", FACTORY_SETTINGS, settings);
     writeSeed(folder, "usersettings", USER_SETTINGS, settings);
-    for (const lcdcheck::FileKindInfo& info : lcdcheck::fileKinds())
+    for (const lcdcheck::FileKindInfo& info : lcdcheck::xmlKinds())
         writeSeed(folder, QString("grown-%1").arg(info.name), info.name,
                   grown(lcdcheck::grammarOf(info.kind).root(), 20).toUtf8());
 }

@@ -75,8 +75,7 @@ const QString& Stage::root()
 
 QString Stage::path(std::optional<FileKind> kind)
 {
-    if (!kind) return "settings/lcdsetting.ini";
-    switch (*kind) {
+    switch (kind.value_or(FileKind::Settings)) {
     case FileKind::Feature:
         return "devices/device/feature.xml";
     case FileKind::Slot:
@@ -101,8 +100,10 @@ QString Stage::path(std::optional<FileKind> kind)
         return "keycheck/keyboardchecklist.xml";
     case FileKind::LockArea:
         return "lockarea/lockareaconfig.xml";
+    case FileKind::Settings:
+        break;
     }
-    return {};
+    return "settings/lcdsetting.ini";
 }
 
 Stage::Stage(const QString& file, const QByteArray& content) : _file(root() + '/' + file)

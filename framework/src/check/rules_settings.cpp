@@ -20,10 +20,7 @@ const QRegularExpression& rowOfArray()
 }
 
 /// The key under which an entry is asked for: rows of an array are all alike.
-QString pattern(QString key)
-{
-    return key.replace(rowOfArray(), "/1/");
-}
+QString pattern(QString key) { return key.replace(rowOfArray(), "/1/"); }
 
 /// What a getter makes of a whole number that its type can't hold; empty for any other text.
 QString storedOf(const IniEntry& entry)

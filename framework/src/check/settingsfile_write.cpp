@@ -53,8 +53,8 @@ ReferenceElement referenceOfSection(const QString& section)
     const std::vector<Setting> settings = inSection(possibleSettings(), section);
     ReferenceElement shown;
     shown.path = section;
-    shown.count = isArray(settings) ? QStringLiteral("an array, whose rows are counted from 1; optional")
-                                    : QStringLiteral("optional");
+    if (isArray(settings)) shown.meaning = QStringLiteral("An array, whose rows are counted from 1.");
+    shown.count = QStringLiteral("optional: its defaults hold");
     for (const Setting& setting : settings) shown.attributes.push_back(referenceOf(setting));
     return shown;
 }
