@@ -85,9 +85,11 @@ private:
     void judgeUnread();
     [[nodiscard]] bool isConsequence(const Folder& folder, const QFileInfo& file);
     void loadUnread(Catalogue catalogue, FileKind kind);
+    [[nodiscard]] bool isCut(FileKind kind) const;
     [[nodiscard]] bool knowsCards() const;
     [[nodiscard]] bool lacksCards() const;
     void judgeDevices();
+    void judgeStandardResolutions();
     void judgeSettings();
     Finding& add(const char* id, const QString& path, const QString& message);
 
@@ -168,6 +170,15 @@ void RootCheck::judgeDevices()
         }
 }
 
+/// Connectors have no resolutions of their own: they take theirs from one file.
+void RootCheck::judgeStandardResolutions()
+{
+    const QString path = lcdcommon::pathOf(_root, lcdcommon::folderOf(Catalogue::Connectors)) + "/resolutionratio.xml";
+    const bool anyConnector = !_collected.all(fieldOf<Lcd::s_ConnectorCfg>(&Lcd::s_ConnectorCfg::type)).empty();
+    if (anyConnector && !QFileInfo::exists(path))
+        add("missing-file", path, "no such file").cost = "no connector offers a resolution";
+}
+
 void RootCheck::judgeSettings()
 {
     const Folder& folder = lcdcommon::folderOf(Catalogue::Settings);
@@ -229,20 +240,25 @@ void RootCheck::loadUnread(Catalogue catalogue, FileKind kind)
         _typesOfUnread.insert(type.number());
 }
 
-/// Whether any slot tells which card it takes; where none does, no card is unread for a reason of its own.
+/// Whether a file of some kind could not be read to its end.
+bool RootCheck::isCut(FileKind kind) const
+{
+    return std::any_of(_collected.files().begin(), _collected.files().end(), [kind](const CollectedFile& file) {
+        return !file.whole && kindsByPlace(file.path) == std::vector{kind};
+    });
+}
+
+/// Whether the slots tell which cards they take; where they don't, no card is unread for a reason of its own.
 bool RootCheck::knowsCards() const
 {
-    return !_collected.all(fieldOf<Lcd::s_InlineSubcard>(&Lcd::s_InlineSubcard::moduleId)).empty();
+    return !isCut(FileKind::Slot) &&
+           !_collected.all(fieldOf<Lcd::s_InlineSubcard>(&Lcd::s_InlineSubcard::moduleId)).empty();
 }
 
 /// Whether some card is missing or was not read to its end, so that nobody knows which connectors it has.
 bool RootCheck::lacksCards() const
 {
-    const auto isCut = [](const CollectedFile& file) {
-        return !file.whole && kindsByPlace(file.path) == std::vector{FileKind::Card};
-    };
-    return _collected.all(fieldOf<Lcd::s_Subcard>(&Lcd::s_Subcard::modelId)).empty() ||
-           std::any_of(_collected.files().begin(), _collected.files().end(), isCut) ||
+    return isCut(FileKind::Card) || _collected.all(fieldOf<Lcd::s_Subcard>(&Lcd::s_Subcard::modelId)).empty() ||
            std::any_of(_out.findings.begin(), _out.findings.end(),
                        [](const Finding& finding) { return finding.kind == kindOf("missing-card"); });
 }
@@ -298,6 +314,7 @@ void RootCheck::run()
     loadUnread(Catalogue::Connectors, FileKind::Connector);
     judgeSettings();
     judgeDevices();
+    judgeStandardResolutions();
     judgeIdentities(_collected, _out.findings);
     judgeReferences(_collected, _out.findings);
     judgePositions(_collected, _out.findings);

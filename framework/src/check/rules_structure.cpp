@@ -96,6 +96,8 @@ void Structure::judgeElement(const Spot& spot)
 {
     const int parent = spot.written().parent;
     if (parent < 0) return;
+    // Where the file is cut off, the last tag may be cut too.
+    if (spot.index + 1 == int(_file.elements.size()) && _file.isCut(spot.index)) return;
     const HeardElement& heard = spot.heard();
     if (const HeardWalk* const walk = deepWalkAbove(spot); walk != nullptr && !heard.found)
         return judgeDeep(spot, walk->tag);
