@@ -7,6 +7,8 @@
 #include "subcardconfig.h"
 #include "support.h"
 
+#include <lcdmainconfig/components.h>
+
 struct CardFixture {
     /// One more device: a class with a slot for each model. The class as a whole takes model 9, too.
     void addDevice(const QList<QPair<QString, QString>>& models)

@@ -290,6 +290,9 @@ void TestCheckTell::ends_data()
     QTest::newRow("id") << "--ignore unknow-key BROKEN" << 2 << "did you mean 'unknown-key'?";
     QTest::newRow("explained id") << "--explain unknow-key" << 2 << "did you mean 'unknown-key'?";
     QTest::newRow("explained") << "--explain unknown-key" << 0 << "";
+    QTest::newRow("single ini") << "--only unknown-key BROKEN/other.ini" << 1 << "";
+    QTest::newRow("ini by its kind") << "--kind settings --only unknown-key BROKEN/other.conf" << 0 << "";
+    QTest::newRow("schema of an ini") << "--schema settings" << 2 << "there are no schemas";
     QTest::newRow("two modes") << "--list --explain shadowed" << 2 << "do not go together";
     QTest::newRow("help first") << "--formt --help" << 0 << "";
     QTest::newRow("lost output") << "--list >/dev/full" << 1 << "No space left on device";
@@ -303,6 +306,8 @@ void TestCheckTell::ends()
     QFETCH(QString, complaint);
     const Folder root;
     root.write("menu/menuconfig.xml", "<LCD");
+    root.write("other.ini", "[LanguageSetting]\nLanguage=en\n");
+    root.write("other.conf", "[LanguageSetting]\n; lcdcheck: expect unknown-key\nLanguage=en\n");
     QProcess shell;
     shell.start("sh", {"-c", "'" LCDCHECK_PATH "' " + arguments.replace("BROKEN", root.path())});
     QVERIFY(shell.waitForFinished());

@@ -7,6 +7,7 @@
 #include "check/drive.h"
 #include "check/reference.h"
 #include "check/schema.h"
+#include "check/settingsfile.h"
 #include "check/skeleton.h"
 
 #include <QDirIterator>
@@ -105,10 +106,10 @@ QDomDocument parsed(const QString& path)
     return document;
 }
 
-void addKinds()
+void addKinds(std::span<const FileKindInfo> kinds = xmlKinds())
 {
     QTest::addColumn<int>("kind");
-    for (const FileKindInfo& kind : fileKinds()) QTest::newRow(kind.name) << int(kind.kind);
+    for (const FileKindInfo& kind : kinds) QTest::newRow(kind.name) << int(kind.kind);
 }
 
 void addExamples()
@@ -207,14 +208,13 @@ private Q_SLOTS:
                  std::size_t(1));
     }
 
-    void publishedReferenceIsCurrent_data() { addKinds(); }
+    void publishedReferenceIsCurrent_data() { addKinds(fileKinds()); }
     void publishedReferenceIsCurrent()
     {
         QFETCH(int, kind);
         QFile file(QString(EXAMPLES_PATH "/../docs/formats/%1.md").arg(infoOf(FileKind(kind)).name));
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY2(QString::fromUtf8(file.readAll()) ==
-                     writeReference(grammarOf(FileKind(kind)), ReferenceFormat::Markdown),
+        QVERIFY2(QString::fromUtf8(file.readAll()) == writeReference(FileKind(kind), ReferenceFormat::Markdown),
                  "run ./dev reference");
     }
 
@@ -241,6 +241,25 @@ private Q_SLOTS:
         QVERIFY(document.setContent(writeSkeleton(grammarOf(FileKind(kind))), true));
         Feeder feeder(document);
         QVERIFY(drive(FileKind(kind), feeder));
+    }
+
+    /// As it is, and with a row in each array.
+    void settingsSkeletonHasNoFindingAndReadsAsAnEmptyFile()
+    {
+        const QString text = writeSettingsSkeleton();
+        QString rows = text;
+        rows.replace("\n; 1\\", "\n1\\").replace("size=0", "size=1");
+        QVERIFY(rows.count("\n1\\") > 6);
+        const Folder folder;
+        Request request;
+        request.kind = "settings";
+        request.files << folder.write("panel.conf", text) << folder.write("rows.conf", rows);
+        for (const Finding& finding : check(request, {}).findings) QFAIL(qPrintable(finding.message));
+        QMap<QString, QString> empty;
+        for (const Setting& setting : settingsOf({})) empty.insert(setting.key, setting.value);
+        for (const Setting& setting : settingsOf(text.toUtf8()))
+            QCOMPARE(setting.key + '=' + setting.value, setting.key + '=' + empty.value(setting.key, "?"));
+        for (const Setting& setting : settingsOf(rows.toUtf8())) QVERIFY(setting.present || setting.isCounted());
     }
 
     void smallRootHasNoFinding()
@@ -281,11 +300,17 @@ private Q_SLOTS:
         // Read defaults left out, letters for a 0, comments and what nobody reads are no differences.
         edit("subcards/inputs/1.xml", " InterlacedMaxCount=\"0\"", " InterlacedMaxCount=\"none\" Other=\"1\"");
         edit("connectors/1.xml", "<Connectors>", "<!-- moved --><Connectors><!-- down -->\n\n");
+        edit("settings/lcdsetting.ini", "LanguageValue=en\n",
+             "LanguageValue = \"en\"\n[Other]\na=1\n[DevSetting]\nLockStatusValue=no");
         QCOMPARE(found(), QStringList());
         edit("menu/menuconfig.xml", "Key=\"input\" Order=\"0\"", "Key=\"input\" Order=\"4\"");
         edit("subcards/inputs/1.xml", "<Connectors>", "<Connectors><Connector Position=\"8\"/>");
         QCOMPARE(found(), QStringList({"0 DCS/Subcards/Card/Connectors/Connector[Position=8]  ",
                                        "2 LCD/MenuBar/Menu/Menu Order 4"}));
+        edit("settings/lcdsetting.ini", "=no", "=1\n[PgmEditStatusCurrent]\nsize=1\n1\\Status=4");
+        QCOMPARE(found().mid(2),
+                 QStringList({"2 settings/PgmEditStatusCurrent size 1", "0 settings/PgmEditStatusCurrent/row  ",
+                              "2 settings/DevSetting LockStatusValue 1"}));
         // A card without a name is dropped, and so is not in what the panel takes.
         edit("subcards/inputs/1.xml", "Name>", "Named>");
         QVERIFY(found().contains("1 DCS/Subcards/Card  "));

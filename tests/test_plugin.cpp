@@ -1,6 +1,7 @@
 // The built plug-in as a host meets it: its exports, its record, its component table, the entry order of its
 // interfaces, and the look-up of one component by another. Nothing of the library is linked in here but its public
 // headers.
+#include "common/layout.h"
 #include "interfaces.h"
 #include "kpmhost.h"
 #include "standinhost.h"
@@ -153,8 +154,8 @@ void TestPlugin::endsWithoutAHost()
         StandInHost servesNothing;
         symbol<kpm::PluginInitFunction>("pluginit")(hasHost ? kpm::api::get().service : nullptr);
         QString error;
-        // All interfaces with this form of readConfig have it in their first entry.
-        host.component<LCD::MainConfig::IDeviceConfig>(component.toStdString())->readConfig({}, error);
+        for (const lcdcommon::Folder& folder : lcdcommon::folders())
+            if (folder.component == component) folder.read(host.component(folder.component), {}, error);
         _exit(0);
     }
     close(words[1]);

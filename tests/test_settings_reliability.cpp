@@ -70,7 +70,7 @@ template <class Work> void inEightThreads(const Work& work)
     std::vector<std::thread> threads;
     for (int number = 0; number < 8; ++number)
         threads.emplace_back([&, number] {
-            for (int n = 1; n <= 60; ++n) work(number, n);
+            for (int n = 1; n <= 12; ++n) work(number, n);
         });
     for (std::thread& thread : threads) thread.join();
 }
@@ -139,7 +139,7 @@ private Q_SLOTS:
             config.setSourceCustomSort(QStringLiteral("%1_0").arg(thread), n);
             config.setFnBtnMaxCount(thread);
             config.removeGroups({"Scratch"});
-            if (n % 8 == thread) config.setTBarCalibration({n, n});
+            if (n == thread + 1) config.setTBarCalibration({n, n});
             (config.*set)(n);
             if ((config.*get)() != n || config.getFnSettingTargetValue(thread) != n) ++wrong;
             if (config.getRTSPSettingPara().size() != 7 || config.getSourceCustomSort().empty()) ++wrong;
@@ -150,8 +150,8 @@ private Q_SLOTS:
         User copy(panel.text());
         for (int thread = 0; thread < 8; ++thread) {
             const auto get = own[thread].second;
-            QCOMPARE(((*copy).*get)(), 60);
-            QCOMPARE(copy->getFnSettingTargetValue(thread), 60);
+            QCOMPARE(((*copy).*get)(), 12);
+            QCOMPARE(copy->getFnSettingTargetValue(thread), 12);
         }
         QCOMPARE(int(copy->getSourceCustomSort().size()), 8);
     }
@@ -204,26 +204,44 @@ private Q_SLOTS:
         done.get();
     }
 
+    /// Where the write belongs to the change, a getter waits for it, but no longer than another process may hold it up.
+    void holdsTheLockOverAWrite()
+    {
+        const Folder folder;
+        SettingsStore store;
+        store.open(folder.write("lcdsetting.ini", ""));
+        QVERIFY(QDir().mkdir(folder.path("lcdsetting.ini.lock")));
+        expectWarning("cannot be written now: ");
+        std::promise<QElapsedTimer> begun;
+        std::thread setter([&] {
+            store.changeAndWrite([&](IniFile& file) {
+                QElapsedTimer time;
+                time.start();
+                file.setValue("A/x", 7);
+                begun.set_value(time);
+            });
+        });
+        const QElapsedTimer time = begun.get_future().get();
+        QCOMPARE(store.number("A/x", 0), 7);
+        QVERIFY(time.elapsed() >= 300);
+        setter.join();
+    }
+
     /// A change that comes amid a write is not taken for written.
     void closesWithWhatWasSetLast()
     {
         const Folder folder;
         const QString path = folder.write("lcdsetting.ini", "");
-        for (int round = 1; round <= 200; ++round) {
-            auto store = std::make_unique<SettingsStore>();
-            store->open(path);
+        for (int round = 1; round <= 50; ++round) {
+            auto file = IniFile::open(path);
             std::atomic<bool> writing = true;
             std::thread other([&] {
-                while (writing) store->write();
+                while (writing) file->write();
             });
-            for (int n = 0; n < 4; ++n)
-                store->read(0, [&](IniFile& file) {
-                    file.setValue("Section/entry", round + n);
-                    return 0;
-                });
+            for (int n = 0; n < 4; ++n) file->setValue("Section/entry", round + n);
             writing = false;
             other.join();
-            store.reset();
+            file.reset();
             QCOMPARE(QSettings(path, QSettings::IniFormat).value("Section/entry").toInt(), round + 3);
         }
     }
@@ -232,17 +250,13 @@ private Q_SLOTS:
     {
         User panel("[A]\nx=1\n");
         const int events = inotify_init1(IN_NONBLOCK);
-        inotify_add_watch(events, qPrintable(panel.folder.path()), IN_CREATE | IN_MODIFY);
+        inotify_add_watch(events, qPrintable(panel.folder.path()), IN_CREATE);
         const auto created = [&] {
-            std::vector<QString> names;
             alignas(inotify_event) char buffer[4096];
-            for (ssize_t size = 0; (size = read(events, buffer, sizeof buffer)) > 0;)
-                for (ssize_t at = 0; at < size;) {
-                    const auto* event = reinterpret_cast<const inotify_event*>(buffer + at);
-                    if (event->mask & IN_CREATE) names.push_back(event->name);
-                    at += ssize_t(sizeof(inotify_event) + event->len);
-                }
-            return int(names.size());
+            const ssize_t size = read(events, buffer, sizeof buffer);
+            const auto* first = reinterpret_cast<const inotify_event*>(buffer);
+            // The name is the same for all of them.
+            return size <= 0 ? 0 : int(size / ssize_t(sizeof *first + first->len));
         };
         panel->setLanguage("en");
         QCOMPARE(created(), 1);
@@ -264,12 +278,12 @@ private Q_SLOTS:
         const QString lock = panel.file() + ".lock";
         int amidAWrite = 0;
         int last = 0;
-        for (int kill = 0; kill < 100; ++kill) {
+        for (int kill = 0; kill < 15; ++kill) {
             QProcess writer;
             start(writer, "write on and on", panel.file());
             // A lock that an earlier kill has left must not hold up the next process.
             QVERIFY(writer.waitForReadyRead(20000));
-            usleep(useconds_t(kill * 37));
+            usleep(useconds_t(kill * 250));
             ::kill(pid_t(writer.processId()), SIGKILL);
             QVERIFY(writer.waitForFinished());
             const QString text = panel.text();
@@ -278,7 +292,7 @@ private Q_SLOTS:
             last = n;
             amidAWrite += QFile::exists(lock);
         }
-        QVERIFY2(amidAWrite > 10, qPrintable(QString::number(amidAWrite)));
+        QVERIFY2(amidAWrite > 1, qPrintable(QString::number(amidAWrite)));
         panel.close();
         QVERIFY(U(panel.file()).readConfig());
         QCOMPARE(QDir(panel.folder.path()).entryList(QDir::Files), QStringList("lcdsetting.ini"));
@@ -309,12 +323,15 @@ private Q_SLOTS:
             panel->setFnSettingValue(0, value);
             QCOMPARE(panel->getFnSettingValue(0), value);
         };
-        // The value waits for room, and then gets into the file by itself.
+        // The value waits for room, and then gets into the file by the event loop or by the next setter.
         expectWarning("cannot be written now: the new file cannot be written: File too large");
         setWhileFull(5);
         QCOMPARE(panel.text(), stored);
         setrlimit(RLIMIT_FSIZE, &before);
-        QTRY_COMPARE(panel.text(), QString(stored).replace("FnValue0=3", "FnValue0=5"));
+        if (room == 0) panel->removeGroups({"none"});
+        const QString whole = QString(stored).replace("FnValue0=3", "FnValue0=5");
+        if (room == 0) QCOMPARE(panel.text(), whole);
+        QTRY_COMPARE(panel.text(), whole);
         // What the close could not write waits for the next one who opens the file.
         expectWarning("cannot be written now");
         setWhileFull(6);
@@ -330,38 +347,26 @@ private Q_SLOTS:
         QTest::addColumn<FileWork>("obstruct");
         QTest::addColumn<FileWork>("clear");
         static std::unique_ptr<QLockFile> held;
-        const auto row = [](const char* name, const FileWork& obstruct, const FileWork& clear) {
-            QTest::newRow(name) << obstruct << clear;
+        QTest::newRow("a lock that lives") << FileWork([](const QString& file) {
+            held = std::make_unique<QLockFile>(file + ".lock");
+            QVERIFY(held->tryLock(0));
+        }) << FileWork([](const QString&) { held.reset(); });
+        QTest::newRow("a living process that does not hold the file of its lock") << FileWork([](const QString& file) {
+            QLockFile lock(file + ".lock");
+            QVERIFY(lock.tryLock(0));
+            QVERIFY(QFile::copy(file + ".lock", file + ".copy"));
+            lock.unlock();
+            QVERIFY(QFile::rename(file + ".copy", file + ".lock"));
+        }) << FileWork([](const QString& file) { QFile::remove(file + ".lock"); });
+        QTest::newRow("a folder named like the lock")
+            << FileWork([](const QString& file) { QVERIFY(QDir().mkdir(file + ".lock")); })
+            << FileWork([](const QString& file) { QDir().rmdir(file + ".lock"); });
+        static const auto renameFolder = [](const QString& file, const char* from, const char* to) {
+            const QString folder = QFileInfo(file).path();
+            QVERIFY(QDir().rename(folder + from, folder + to));
         };
-        const FileWork removeLock = [](const QString& file) { QFile::remove(file + ".lock"); };
-        row(
-            "a lock that lives",
-            [](const QString& file) {
-                held = std::make_unique<QLockFile>(file + ".lock");
-                QVERIFY(held->tryLock(0));
-            },
-            [](const QString&) { held.reset(); });
-        row(
-            "a living process that does not hold the file of its lock",
-            [](const QString& file) {
-                QLockFile lock(file + ".lock");
-                QVERIFY(lock.tryLock(0));
-                QVERIFY(QFile::copy(file + ".lock", file + ".copy"));
-                lock.unlock();
-                QVERIFY(QFile::rename(file + ".copy", file + ".lock"));
-            },
-            removeLock);
-        row(
-            "a folder named like the lock", [](const QString& file) { QVERIFY(QDir().mkdir(file + ".lock")); },
-            [](const QString& file) { QDir().rmdir(file + ".lock"); });
-        row(
-            "no folder",
-            [](const QString& file) {
-                QVERIFY(QDir().rename(QFileInfo(file).path(), QFileInfo(file).path() + "-gone"));
-            },
-            [](const QString& file) {
-                QVERIFY(QDir().rename(QFileInfo(file).path() + "-gone", QFileInfo(file).path()));
-            });
+        QTest::newRow("no folder") << FileWork([](const QString& file) { renameFolder(file, "", "-gone"); })
+                                   << FileWork([](const QString& file) { renameFolder(file, "-gone", ""); });
     }
 
     void waitsForWhatStandsInTheWay()
@@ -374,22 +379,47 @@ private Q_SLOTS:
         QVERIFY(panel.readConfig());
         obstruct(file);
         expectWarning("cannot be written now: ");
-        QElapsedTimer time;
-        time.start();
         std::thread setter([&] { panel.setJumpFlag(2); });
-        for (int n = 0; n < 20; ++n) {
-            QElapsedTimer answer;
+        QElapsedTimer answer;
+        for (int n = 0; n < 15; ++n) {
             answer.start();
             panel.getLanguage();
-            QVERIFY2(answer.elapsed() < 500, qPrintable(QString::number(answer.elapsed())));
+            QVERIFY2(answer.elapsed() < 200, qPrintable(QString::number(answer.elapsed())));
             usleep(10000);
         }
         setter.join();
+        answer.start();
         panel.setJumpFlag(3);
-        QVERIFY2(time.elapsed() < 3000, qPrintable(QString::number(time.elapsed())));
+        QVERIFY2(answer.elapsed() < 200, qPrintable(QString::number(answer.elapsed())));
         QCOMPARE(panel.getJumpFlag(), 3);
         clear(file);
         QTRY_VERIFY(QSettings(file, QSettings::IniFormat).value("JumpFlag/Jump") == "3");
+    }
+
+    /// A timer that goes off as its file is closed, here or in another thread, finds nothing and leaves nothing.
+    void closesAmidRetries()
+    {
+        const Folder folder;
+        const QString file = folder.write("lcdsetting.ini", "");
+        QVERIFY(QDir().mkdir(file + ".lock"));
+        IniFile::waits = {0ms, 1ms, 1ms};
+        expectWarning("cannot be written now: ");
+        for (int round = 0; round < 40; ++round) {
+            auto config = std::make_unique<U>(file);
+            QVERIFY(config->readConfig());
+            std::thread other([&] {
+                config->setJumpFlag(round);
+                if (round % 2 == 0) config.reset();
+            });
+            QTest::qWait(3);
+            other.join();
+        }
+        QVERIFY(QDir().rmdir(file + ".lock"));
+        // Closed, it is written by no timer, but by the next one who opens it.
+        QTest::qWait(20);
+        QCOMPARE(QFileInfo(file).size(), 0);
+        QVERIFY(U(file).readConfig());
+        QCOMPARE(QSettings(file, QSettings::IniFormat).value("JumpFlag/Jump").toInt(), 39);
     }
 
     void leavesWhatItMayNotTouch_data()
@@ -481,6 +511,8 @@ private Q_SLOTS:
         panel->setALLFnSettingValue(1);
         QCOMPARE(panel->getFnSettingValue(255), 1);
     }
+
+    void init() { IniFile::waits = {300ms, 20ms, 40ms}; }
 
 private:
     StandInSync _sync;

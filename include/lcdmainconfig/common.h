@@ -1,5 +1,5 @@
 // The small records that every capability file shares: a setting's flags, value, range and allowed values, a text in
-// two languages, a storage place; and the names under which components look each other up.
+// two languages, a storage place.
 #ifndef LCDMAINCONFIG_COMMON_H
 #define LCDMAINCONFIG_COMMON_H
 
@@ -98,14 +98,6 @@ enum class RelativePathType : int {
     Camera = 4,  ///< What belongs to cameras: the target path that contains "camera".
     Logs = 5     ///< Log files: the target path that contains "logs".
 };
-
-/// Names that a host and the library share.
-namespace constants {
-/// Interface name under which the host hands out the device catalogue, `IDeviceConfig`; not the component's id.
-inline constexpr char OBJ_DEVICECONFIG_NAME[] = "lcdDeviceConfig";
-/// Interface name under which the host hands out the card catalogue, `ISubcardConfig`; not the component's id.
-inline constexpr char OBJ_SUBCARDCONFIG_NAME[] = "lcdSubcardConfig";
-} // namespace constants
 
 } // namespace LCD::MainConfig
 

@@ -4,6 +4,7 @@
 
 #include "drive.h"
 #include "panel.h"
+#include "quiet.h"
 #include "rules.h"
 #include "rules_settings.h"
 #include "vocabulary.h"
@@ -52,19 +53,11 @@ QString costOfFile(Catalogue catalogue)
     return {};
 }
 
-/// The messages of a load are for the panel's log; what they say is found and told in another way.
-void dropMessage(QtMsgType /*type*/, const QMessageLogContext& /*where*/, const QString& /*text*/) {}
-
-class Silence {
-public:
-    Silence() : _before(qInstallMessageHandler(dropMessage)) {}
-    ~Silence() { qInstallMessageHandler(_before); }
-    Silence(const Silence&) = delete;
-    Silence& operator=(const Silence&) = delete;
-
-private:
-    QtMessageHandler _before;
-};
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 std::set<Field> comparedFields()
 {
@@ -198,13 +191,7 @@ void RootCheck::judgeSettings()
         return;
     }
     ++_out.files;
-    HeardSettings heard;
-    const Silence silence;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return;
-    const IniSource source = IniSource::read(file.readAll());
-    heard.ask(*_panel.loaded(_root).settings, source);
-    heard.judge(path, source, _out.findings);
+    lcdcheck::judgeSettings(path, bytesOf(path), _out.findings);
 }
 
 /// Why nobody reads a file of a catalogue.
@@ -318,7 +305,7 @@ void RootCheck::run()
         return;
     }
     {
-        const Silence silence;
+        const Quiet quiet;
         const reading::Listening listening(_hearing);
         for (const Folder& folder : lcdcommon::folders()) load(folder);
         _hearing.finish();
@@ -354,6 +341,7 @@ void checkFile(const QString& path, const QString& kindName, GrammarVocabulary& 
     if (!kind && placed.size() == 1) kind = placed.front();
     if (!kind) kind = kindByContent(Source::readFile(path).value_or(Source()));
     if (!kind) return add("neither place, name nor content tell what kind of file it is; --kind does");
+    if (*kind == FileKind::Settings) return judgeSettings(path, bytesOf(path), out.findings);
     vocabulary.setKind(path, *kind);
     Collected collected(comparedFields());
     Hearing hearing(

@@ -2,26 +2,20 @@
 
 #include "reference.h"
 #include "schema.h"
+#include "settingsfile.h"
 #include "skeleton.h"
 
 namespace lcdcheck {
 
 namespace {
 
-QStringList kindNames()
-{
-    QStringList names;
-    for (const FileKindInfo& kind : fileKinds()) names.append(kind.name);
-    return names;
-}
-
 /// The kind that the command line names; null, with a complaint, when there is none of that name.
 const FileKindInfo* kindOrComplain(const QString& name, Console& console)
 {
     const FileKindInfo* const kind = fileKindNamed(name);
     if (kind == nullptr)
-        console.complaints.line("lcdcheck: no kind of file is called '" + name + '\'' + suggestion(name, kindNames()) +
-                                "; there are " + kindNames().join(", "));
+        console.complaints.line("lcdcheck: no kind of file is called '" + name + '\'' +
+                                suggestion(name, fileKindNames()) + "; there are " + fileKindNames().join(", "));
     return kind;
 }
 
@@ -40,11 +34,11 @@ int runReference(const Options& options, Console& console)
     if (!options.subject.isEmpty()) {
         const FileKindInfo* const kind = kindOrComplain(options.subject, console);
         if (kind == nullptr) return WrongUse;
-        print(writeReference(grammarOf(kind->kind), format), console);
+        print(writeReference(kind->kind, format), console);
         return Good;
     }
     for (const FileKindInfo& kind : fileKinds()) {
-        print(writeReference(grammarOf(kind.kind), format), console);
+        print(writeReference(kind.kind, format), console);
         if (format != ReferenceFormat::Html) console.out.line();
     }
     return Good;
@@ -54,6 +48,11 @@ int runSchema(const Options& options, Console& console)
 {
     const FileKindInfo* const kind = kindOrComplain(options.subject, console);
     if (kind == nullptr) return WrongUse;
+    if (kind->kind == FileKind::Settings) {
+        console.complaints.line("lcdcheck: the settings are an ini file, for which there are no schemas; "
+                                "--reference settings tells what it may hold");
+        return WrongUse;
+    }
     print(writeSchema(grammarOf(kind->kind)), console);
     return Good;
 }
@@ -72,8 +71,12 @@ int runNew(const Options& options, Console& console)
         return Failed;
     }
     const FileKindInfo* const kind = kindOrComplain(options.subject, console);
-    if (kind == nullptr || !paths.isEmpty()) return WrongUse;
-    print(writeSkeleton(grammarOf(kind->kind)), console);
+    if (kind == nullptr) return WrongUse;
+    if (!paths.isEmpty()) {
+        console.complaints.line("lcdcheck: only --new root takes a folder");
+        return WrongUse;
+    }
+    print(kind->kind == FileKind::Settings ? writeSettingsSkeleton() : writeSkeleton(grammarOf(kind->kind)), console);
     return Good;
 }
 

@@ -12,6 +12,7 @@
 #include "subcardconfig.h"
 
 #include <kpmsdk/api.h>
+#include <lcdmainconfig/components.h>
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -134,6 +135,8 @@ bool read(FileKind kind, const Stage& stage)
         return KeyCheckConfig().readConfig(stage.path("keycheck"), unused);
     case FileKind::LockArea:
         return LockAreaConfig().readConfig(file, unused);
+    case FileKind::Settings:
+        return false;
     }
     return false;
 }

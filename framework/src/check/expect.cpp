@@ -3,6 +3,7 @@
 #include "common/access.h"
 #include "common/layout.h"
 #include "common/nearest.h"
+#include "filekind.h"
 #include "source.h"
 
 #include <QDir>
@@ -219,7 +220,7 @@ QStringList filesOfRoot(const QString& root)
 
 bool isIni(const QString& file) { return file.endsWith(QLatin1String(".ini"), Qt::CaseInsensitive); }
 
-Expectations expectationsOfFile(const QString& path)
+Expectations expectationsOfFile(const QString& path, bool asSettings)
 {
     // Most files say nothing to the checker, and are spared the reading with places. Encodings of two and four bytes
     // fill up with zeros.
@@ -227,10 +228,12 @@ Expectations expectationsOfFile(const QString& path)
     if (!lcdcommon::whyNoFile(path).isEmpty()) return {};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = file.readAll();
+    // Nobody reads a larger one.
+    const QByteArray bytes = file.read(Source::MOST_BYTES);
+    if (!file.atEnd()) return {};
     const bool wide = bytes.contains('\0');
     if (!(wide ? QByteArray(bytes).replace(QByteArray(1, '\0'), QByteArray()) : bytes).contains(word)) return {};
-    return isIni(path) ? expectationsOfIni(bytes) : expectationsOfXml(bytes);
+    return asSettings || isIni(path) ? expectationsOfIni(bytes) : expectationsOfXml(bytes);
 }
 
 } // namespace
@@ -250,7 +253,9 @@ void applyExpectations(Findings& findings, const Request& request)
     for (const QString& path : request.files) files.try_emplace(QDir::cleanPath(path), File{path, true, false, {}});
     for (const Finding& finding : findings)
         files.try_emplace(QDir::cleanPath(finding.file), File{finding.file, request.roots.isEmpty(), false, {}});
-    for (auto& [key, file] : files) file.expectations = expectationsOfFile(file.path);
+    for (auto& [key, file] : files)
+        file.expectations =
+            expectationsOfFile(file.path, file.alone && request.kind == infoOf(FileKind::Settings).name);
 
     // Of a file that nobody reads, nothing can be found.
     for (const Finding& finding : findings)

@@ -20,9 +20,19 @@ const std::vector<FileKindInfo>& fileKinds()
         {FileKind::FunctionKeys, "fnbutton",     "Function key file", "fnbutton/fnkeyboardconfig.xml",    "What the function keys do before the user says so"},
         {FileKind::KeyCheck,     "keycheck",     "Key check file",    "keycheck/keyboard*checklist.xml",  "The keys of the keyboard's self-test"},
         {FileKind::LockArea,     "lockarea",     "Lock area file",    "lockarea/lockareaconfig.xml",      "The areas of keys that are locked together"},
+        {FileKind::Settings,     "settings",     "Settings file",     "settings/lcdsetting.ini",          "The panel's factory settings"},
     };
     // clang-format on
     return kinds;
+}
+
+std::span<const FileKindInfo> xmlKinds() { return std::span(fileKinds()).first(std::size_t(FileKind::Settings)); }
+
+QStringList fileKindNames()
+{
+    QStringList names;
+    for (const FileKindInfo& kind : fileKinds()) names.append(kind.name);
+    return names;
 }
 
 const FileKindInfo& infoOf(FileKind kind) { return fileKinds()[static_cast<std::size_t>(kind)]; }

@@ -3,7 +3,9 @@
 #define LCDCHECK_FILEKIND_H
 
 #include <QString>
+#include <QStringList>
 
+#include <span>
 #include <vector>
 
 namespace lcdcheck {
@@ -21,6 +23,7 @@ enum class FileKind {
     FunctionKeys,
     KeyCheck,
     LockArea,
+    Settings, ///< The ini file; all others are XML, and have a grammar.
 };
 
 struct FileKindInfo {
@@ -35,6 +38,10 @@ struct FileKindInfo {
 
 /// All kinds, in the order of a configuration's load.
 const std::vector<FileKindInfo>& fileKinds();
+/// Those that have a grammar.
+std::span<const FileKindInfo> xmlKinds();
+/// As the command line takes them.
+QStringList fileKindNames();
 const FileKindInfo& infoOf(FileKind kind);
 /// The kind of that name; null when there is none.
 const FileKindInfo* fileKindNamed(const QString& name);

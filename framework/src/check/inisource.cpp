@@ -41,6 +41,7 @@ IniSource IniSource::read(const QByteArray& bytes)
         if (text.startsWith('[')) {
             section = plainName(text.mid(1, text.indexOf(']') - 1));
             if (section.compare("General", Qt::CaseInsensitive) == 0) section.clear();
+            source.sections.push_back({section, {number, column, column + text.size()}});
             if (!text.contains(']')) source.faults.push_back({number, column, column + text.size()});
             continue;
         }

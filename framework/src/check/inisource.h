@@ -16,9 +16,15 @@ struct IniEntry {
     Place place;   ///< Of the entry's name.
 };
 
+struct IniSection {
+    QString name;
+    Place place; ///< Of its line.
+};
+
 struct IniSource {
-    std::vector<IniEntry> entries; ///< In the order of the file.
-    std::vector<Place> faults;     ///< Lines that are neither a section nor an entry nor a comment.
+    std::vector<IniEntry> entries;    ///< In the order of the file.
+    std::vector<IniSection> sections; ///< In the order of the file.
+    std::vector<Place> faults;        ///< Lines that are neither a section nor an entry nor a comment.
 
     static IniSource read(const QByteArray& bytes);
 };

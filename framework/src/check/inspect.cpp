@@ -3,17 +3,21 @@
 
 #include "difference.h"
 #include "drive.h"
+#include "inisource.h"
 #include "reference.h"
+#include "settingsfile.h"
 #include "vocabulary.h"
 
 #include "common/access.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <limits>
 
 namespace lcdcheck {
@@ -102,9 +106,8 @@ void tellAttributes(const HeardFile& file, int index, Console& console)
     }
 }
 
-void tellReference(const Element& element, Console& console)
+void tellReference(const ReferenceElement& shown, Console& console)
 {
-    const ReferenceElement shown = referenceOf(element);
     console.out.heading("Reference");
     for (const QString& sentence : {shown.meaning, shown.count, shown.absence, shown.note})
         if (!sentence.isEmpty()) console.out.line("  " + sentence);
@@ -123,7 +126,52 @@ void tellPlace(const HeardFile& file, FileKind kind, int line, int column, Conso
         console.out.line("  Nobody reads this element.");
     else
         tellAttributes(file, index, console);
-    if (const Element* const element = grammarOf(kind).at(file.pathOf(index))) tellReference(*element, console);
+    if (const Element* const element = grammarOf(kind).at(file.pathOf(index)))
+        tellReference(referenceOf(*element), console);
+}
+
+QString originOf(const Setting& setting)
+{
+    if (!setting.present) return QStringLiteral("the default, since it is absent");
+    if (setting.good) return QStringLiteral("the file");
+    return setting.kind == reading::Kind::Text ? QStringLiteral("a list, so it reads as an empty text")
+                                               : QStringLiteral("no number, so it reads as 0");
+}
+
+/// The section that a line belongs to, without entries that are absent and counted, and those of its entries that
+/// nobody reads.
+void tellSection(const QByteArray& text, const IniSource& source, const IniSection& section, Console& console)
+{
+    QStringList read;
+    for (const Setting& setting : inSection(settingsOf(text), section.name)) {
+        read.append(setting.key);
+        if (setting.present || !setting.isCounted())
+            console.out.line(QString("  %1 = \"%2\"  (%3)").arg(setting.name(), setting.value, originOf(setting)));
+    }
+    for (const IniEntry& entry : source.entries)
+        if (entry.key.section('/', 0, 0) == section.name && !read.contains(entry.key))
+            console.out.line("  " + entry.key.section('/', 1).replace('/', '\\') + " is ignored");
+    if (const ReferenceElement shown = referenceOfSection(section.name); !shown.attributes.empty())
+        tellReference(shown, console);
+}
+
+int tellSettingsAt(const QString& path, int line, Console& console)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return complain(console, path + ": " + file.errorString());
+    const QByteArray text = file.readAll();
+    const IniSource source = IniSource::read(text);
+    const auto behind = std::find_if(source.sections.begin(), source.sections.end(),
+                                     [line](const IniSection& section) { return section.place.line > line; });
+    if (behind == source.sections.begin()) {
+        console.out.line("No section stands here.");
+        return Good;
+    }
+    const IniSection& section = *std::prev(behind);
+    console.out.line(
+        QString("%1:%2:%3: [%4]").arg(path).arg(section.place.line).arg(section.place.column).arg(section.name));
+    tellSection(text, source, section, console);
+    return Good;
 }
 
 } // namespace
@@ -164,6 +212,7 @@ int runAt(const Options& options, Console& console)
     const std::optional<Source> source = Source::readFile(path);
     if (!source) return complain(console, path + ": " + lcdcommon::whyNoFile(path));
     const std::vector<FileKind> placed = kindsByPlace(path);
+    if (placed == std::vector{FileKind::Settings}) return tellSettingsAt(path, match.captured(2).toInt(), console);
     const std::optional<FileKind> kind = placed.size() == 1 ? placed.front() : kindByContent(*source);
     if (!kind) return complain(console, path + ": neither place, name nor content tell what kind of file it is");
     GrammarVocabulary vocabulary;

@@ -6,6 +6,7 @@
 #include "progress.h"
 #include "watch.h"
 
+#include "common/build.h"
 #include "common/table.h"
 
 #include <QCoreApplication>
@@ -110,7 +111,7 @@ int help(const Options& /*options*/, Console& console)
 
 int version(const Options& /*options*/, Console& console)
 {
-    console.out.line("lcdcheck " LCDCHECK_VERSION);
+    console.out.line(QStringLiteral("lcdcheck ") + lcdcommon::build);
     return Good;
 }
 

@@ -23,17 +23,6 @@ struct Option {
     QString (*take)(const QString& value, Options& options);
 };
 
-/// What a file holds, by the names that --kind knows.
-const QStringList& kindNames()
-{
-    static const QStringList all = [] {
-        QStringList names;
-        for (const FileKindInfo& kind : fileKinds()) names.append(kind.name);
-        return names << "settings";
-    }();
-    return all;
-}
-
 /// The place of a name in a list of names; -1 with `wrong` telling what could have been meant.
 int indexOf(const QString& value, const QStringList& names, const QString& option, QString& wrong)
 {
@@ -81,7 +70,7 @@ QString takeFailOn(const QString& value, Options& options)
 QString takeKind(const QString& value, Options& options)
 {
     QString wrong;
-    if (indexOf(value, kindNames(), "kind", wrong) >= 0) options.request.kind = value;
+    if (indexOf(value, fileKindNames(), "kind", wrong) >= 0) options.request.kind = value;
     return wrong;
 }
 
@@ -328,7 +317,7 @@ QStringList helpPage(const std::vector<Mode>& modes)
     for (const Format& format : formats()) lines.append(helpRow(format.name, format.summary));
     lines
         << ""
-        << "Kinds of files: " + kindNames().join(", ") + "."
+        << "Kinds of files: " + fileKindNames().join(", ") + "."
         << ""
         << "A finding is silenced by a comment before its element, or in an ini file before its entry:"
         << "  <!-- lcdcheck: expect ID (reason) -->"

@@ -1,5 +1,7 @@
 #include "panel.h"
 
+#include <lcdmainconfig/components.h>
+
 extern "C" {
 const kpm::PluginInfo* pluginfo();
 void pluginit(kpm::IHostService* hostService);
@@ -8,6 +10,7 @@ void pluginit(kpm::IHostService* hostService);
 namespace lcdcheck {
 
 namespace Lcd = LCD::MainConfig;
+using namespace Lcd::constants;
 
 Panel::Panel()
 {
@@ -32,22 +35,21 @@ void Panel::read(const lcdcommon::Folder& folder, const QString& path)
 Loaded Panel::loaded(const QString& root) const
 {
     return {root,
-            component<Lcd::IDeviceConfig>("lcd.deviceconfig"),
-            component<Lcd::ISubcardConfig>("lcd.subcardconfig"),
-            component<Lcd::IConnectorConfig>("lcd.connectorconfig"),
-            component<Lcd::IMenuConfig>("lcd.menuconfig"),
-            component<Lcd::IFNButtonConfig>("lcd.fnbuttonconfig"),
-            component<Lcd::IKeyCheckConfig>("lcd.keycheckconfig"),
-            component<Lcd::ILockAreaConfig>("lcd.lockareaconfig"),
-            component<Lcd::ILcdConfig>("lcd.lcdconfig")};
+            component<Lcd::IDeviceConfig>(COMP_DEVICECONFIG_NAME),
+            component<Lcd::ISubcardConfig>(COMP_SUBCARDCONFIG_NAME),
+            component<Lcd::IConnectorConfig>(COMP_CONNECTORCONFIG_NAME),
+            component<Lcd::IMenuConfig>(COMP_MENUCONFIG_NAME),
+            component<Lcd::IFNButtonConfig>(COMP_FNBUTTONCONFIG_NAME),
+            component<Lcd::IKeyCheckConfig>(COMP_KEYCHECKCONFIG_NAME),
+            component<Lcd::ILockAreaConfig>(COMP_LOCKAREACONFIG_NAME),
+            component<Lcd::ILcdConfig>(COMP_LCDCONFIG_NAME)};
 }
 
 void* Panel::queryInterface(const char* interfaceName)
 {
-    using namespace Lcd::constants;
     const std::string name = interfaceName;
-    if (name == OBJ_DEVICECONFIG_NAME) return _objects.at("lcd.deviceconfig");
-    if (name == OBJ_SUBCARDCONFIG_NAME) return _objects.at("lcd.subcardconfig");
+    if (name == OBJ_DEVICECONFIG_NAME) return _objects.at(COMP_DEVICECONFIG_NAME);
+    if (name == OBJ_SUBCARDCONFIG_NAME) return _objects.at(COMP_SUBCARDCONFIG_NAME);
     return nullptr;
 }
 

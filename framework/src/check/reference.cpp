@@ -131,7 +131,6 @@ ReferenceAttribute referenceOf(const Attribute& attribute)
 ReferenceElement referenceOf(const Element& element)
 {
     ReferenceElement shown;
-    shown.element = &element;
     shown.path = element.path();
     shown.depth = depthOf(element);
     shown.meaning = infoOf(element.record).meaning;
@@ -145,10 +144,11 @@ ReferenceElement referenceOf(const Element& element)
     return shown;
 }
 
-std::vector<ReferenceElement> referenceOf(const Grammar& grammar)
+std::vector<ReferenceElement> referenceOf(FileKind kind)
 {
+    if (kind == FileKind::Settings) return referenceOfSettings();
     std::vector<ReferenceElement> all;
-    for (const Element* const element : grammar.all()) all.push_back(referenceOf(*element));
+    for (const Element* const element : grammarOf(kind).all()) all.push_back(referenceOf(*element));
     return all;
 }
 

@@ -11,13 +11,12 @@ struct ReferenceAttribute {
     QString name;
     QString kind;         ///< "whole number", for example.
     QString readDefault;  ///< What an absent one counts as, as written in a file.
-    QStringList fields;   ///< "s_Cell.x"; several where it is read several times.
+    QStringList fields;   ///< "s_Cell.x"; several where it is read several times. Of a setting its getters.
     QStringList meanings; ///< One for each field that has any.
     QString condition;    ///< When it is read at all; empty: always.
 };
 
 struct ReferenceElement {
-    const Element* element = nullptr;
     QString path;
     int depth = 0;
     QString meaning; ///< Of what it fills; may be empty.
@@ -29,12 +28,15 @@ struct ReferenceElement {
 
 ReferenceAttribute referenceOf(const Attribute& attribute);
 ReferenceElement referenceOf(const Element& element);
-std::vector<ReferenceElement> referenceOf(const Grammar& grammar);
+/// What a file of that kind may hold; of the settings, whose sections count as elements and entries as attributes, too.
+std::vector<ReferenceElement> referenceOf(FileKind kind);
+ReferenceElement referenceOfSection(const QString& section);
+std::vector<ReferenceElement> referenceOfSettings();
 
 enum class ReferenceFormat { Text, Markdown, Html };
 
 /// The reference of one kind of file, as a whole document.
-QString writeReference(const Grammar& grammar, ReferenceFormat format);
+QString writeReference(FileKind kind, ReferenceFormat format);
 
 } // namespace lcdcheck
 

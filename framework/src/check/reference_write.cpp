@@ -5,6 +5,13 @@ namespace lcdcheck {
 
 namespace {
 
+/// What attributes and the fields that they fill are called in a file of that kind.
+std::pair<QString, QString> wordsOf(const FileKindInfo& kind)
+{
+    if (kind.kind == FileKind::Settings) return {"entry", "getter"};
+    return {"attribute", "field"};
+}
+
 /// All that is said of an attribute beside its name, kind and default.
 QString meaningOf(const ReferenceAttribute& attribute)
 {
@@ -33,7 +40,8 @@ QString text(const FileKindInfo& kind, const std::vector<ReferenceElement>& elem
     QString page = QString("%1 (%2)\n%3. %4\n").arg(kind.title, kind.name, kind.summary, kind.place);
     for (const ReferenceElement& element : elements) {
         const QString indent(2 * element.depth, ' ');
-        page += '\n' + indent + '<' + element.path.section('/', -1) + ">\n";
+        page += '\n' + indent +
+                QString(kind.kind == FileKind::Settings ? "[%1]" : "<%1>").arg(element.path.section('/', -1)) + '\n';
         for (const QString& sentence : sentencesOf(element)) page += indent + "    " + sentence + '\n';
         for (const ReferenceAttribute& attribute : element.attributes) {
             page += indent + "    " +
@@ -50,13 +58,14 @@ QString cell(QString words) { return words.replace('|', "\\|").replace('<', "&lt
 
 QString markdown(const FileKindInfo& kind, const std::vector<ReferenceElement>& elements)
 {
+    const auto [word, target] = wordsOf(kind);
     QString page = QString("# %1\n\n%2. Stands at `%3`. Made by `./dev reference`; not edited by hand.\n")
                        .arg(kind.title, kind.summary, kind.place);
     for (const ReferenceElement& element : elements) {
         page += QString("\n## `%1`\n\n").arg(element.path);
         for (const QString& sentence : sentencesOf(element)) page += cell(sentence) + "  \n";
         if (element.attributes.empty()) continue;
-        page += "\n| attribute | kind | when absent | field | meaning |\n|---|---|---|---|---|\n";
+        page += QString("\n| %1 | kind | when absent | %2 | meaning |\n|---|---|---|---|---|\n").arg(word, target);
         for (const ReferenceAttribute& attribute : element.attributes)
             page += QString("| `%1` | %2 | %3 | %4 | %5 |\n")
                         .arg(attribute.name, attribute.kind, defaultOf(attribute),
@@ -68,6 +77,7 @@ QString markdown(const FileKindInfo& kind, const std::vector<ReferenceElement>& 
 
 QString html(const FileKindInfo& kind, const std::vector<ReferenceElement>& elements)
 {
+    const auto [word, target] = wordsOf(kind);
     QString page = QString("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
                            "<style>body{font:16px/1.5 sans-serif;max-width:70em;margin:2em auto;padding:0 1em}"
                            "h2{font:600 1em monospace;margin-top:2em}table{border-collapse:collapse}"
@@ -79,7 +89,7 @@ QString html(const FileKindInfo& kind, const std::vector<ReferenceElement>& elem
         page += QString("<h2 id=\"%1\">%1</h2>\n").arg(element.path.toHtmlEscaped());
         for (const QString& sentence : sentencesOf(element)) page += "<p>" + sentence.toHtmlEscaped() + "</p>\n";
         if (element.attributes.empty()) continue;
-        page += "<table>\n<tr><th>attribute<th>kind<th>when absent<th>field<th>meaning</tr>\n";
+        page += QString("<table>\n<tr><th>%1<th>kind<th>when absent<th>%2<th>meaning</tr>\n").arg(word, target);
         for (const ReferenceAttribute& attribute : element.attributes)
             page += QString("<tr><td><code>%1</code><td>%2<td>%3<td>%4<td>%5</tr>\n")
                         .arg(attribute.name.toHtmlEscaped(), attribute.kind.toHtmlEscaped(),
@@ -92,10 +102,10 @@ QString html(const FileKindInfo& kind, const std::vector<ReferenceElement>& elem
 
 } // namespace
 
-QString writeReference(const Grammar& grammar, ReferenceFormat format)
+QString writeReference(FileKind fileKind, ReferenceFormat format)
 {
-    const FileKindInfo& kind = infoOf(grammar.kind());
-    const std::vector<ReferenceElement> elements = referenceOf(grammar);
+    const FileKindInfo& kind = infoOf(fileKind);
+    const std::vector<ReferenceElement> elements = referenceOf(fileKind);
     switch (format) {
     case ReferenceFormat::Text:
         return text(kind, elements);

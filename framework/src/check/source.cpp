@@ -4,6 +4,8 @@
 #include "source_decode.h"
 #include "source_scan.h"
 
+#include "reading/regularfile.h"
+
 #include <QFile>
 
 #include <algorithm>
@@ -69,7 +71,7 @@ void Source::forget(size_t faults, bool fatal)
 std::optional<Source> Source::readFile(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
+    if (!LCD::MainConfigImpl::reading::openRegular(path, file)) return std::nullopt;
     return read(file.read(qint64(MOST_BYTES) + 1));
 }
 

@@ -2,10 +2,12 @@
 
 #include "panel.h"
 #include "quiet.h"
+#include "settingsfile.h"
 
 #include "common/access.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -111,7 +113,9 @@ QString storedValue(const HeardFile& file, int element, const HeardAttribute& at
     return isText ? value : value.trimmed();
 }
 
-std::vector<TakenFile> takenFrom(const QString& root)
+namespace {
+
+std::vector<TakenFile> takenDocuments(const QString& root)
 {
     std::vector<TakenFile> files;
     const QDir base(QFileInfo(root).absoluteFilePath());
@@ -133,6 +137,18 @@ std::vector<TakenFile> takenFrom(const QString& root)
             panel.read(folder, path);
     }
     hearing.finish();
+    return files;
+}
+
+} // namespace
+
+std::vector<TakenFile> takenFrom(const QString& root)
+{
+    std::vector<TakenFile> files = takenDocuments(root);
+    const lcdcommon::Folder& folder = lcdcommon::folderOf(lcdcommon::Catalogue::Settings);
+    QFile settings(lcdcommon::pathOf(root, folder) + '/' + folder.file);
+    if (lcdcommon::whyNoFile(settings.fileName()).isEmpty() && settings.open(QIODevice::ReadOnly))
+        files.push_back({QString(folder.name) + '/' + folder.file, takenSettings(settings.readAll())});
     return files;
 }
 

@@ -54,6 +54,7 @@ std::vector<FileKind> kindsOfCatalogue(Catalogue catalogue, const QString& name)
 std::vector<FileKind> kindsByPlace(const QString& path)
 {
     const QFileInfo info(path);
+    if (info.suffix().compare("ini", Qt::CaseInsensitive) == 0) return {FileKind::Settings};
     const QStringList folders = info.absolutePath().split('/');
     for (int at = folders.size() - 1; at >= std::max(0, int(folders.size()) - 2); --at)
         for (const lcdcommon::Folder& folder : lcdcommon::folders())
@@ -70,7 +71,7 @@ std::optional<FileKind> kindByContent(const Source& source)
 {
     std::optional<FileKind> best;
     int most = 0;
-    for (const FileKindInfo& info : fileKinds()) {
+    for (const FileKindInfo& info : xmlKinds()) {
         // The place of each element in the grammar; null where it has none, and for all below.
         std::vector<const Element*> places;
         int known = 0;
@@ -94,7 +95,7 @@ std::optional<FileKind> kindByContent(const Source& source)
 
 GrammarVocabulary::GrammarVocabulary()
 {
-    for (const FileKindInfo& info : fileKinds()) grammarOf(info.kind);
+    for (const FileKindInfo& info : xmlKinds()) grammarOf(info.kind);
 }
 
 std::vector<FileKind> GrammarVocabulary::kindsOf(const QString& file) const

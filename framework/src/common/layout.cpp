@@ -1,5 +1,6 @@
 #include "common/layout.h"
 
+#include <lcdmainconfig/components.h>
 #include <lcdmainconfig/iconnectorconfig.h>
 #include <lcdmainconfig/ideviceconfig.h>
 #include <lcdmainconfig/ifnbuttonconfig.h>
@@ -44,16 +45,17 @@ QStringList foldersIn(const QString& path)
 
 const std::vector<Folder>& folders()
 {
+    using namespace Lcd::constants;
     // clang-format off
     static const std::vector<Folder> all{
-        {Catalogue::Devices,      "devices",    "lcd.deviceconfig",    nullptr,                read<Lcd::IDeviceConfig>},
-        {Catalogue::Cards,        "subcards",   "lcd.subcardconfig",   nullptr,                read<Lcd::ISubcardConfig>},
-        {Catalogue::Connectors,   "connectors", "lcd.connectorconfig", nullptr,                read<Lcd::IConnectorConfig>},
-        {Catalogue::Menu,         "menu",       "lcd.menuconfig",      "menuconfig.xml",       read<Lcd::IMenuConfig>},
-        {Catalogue::FunctionKeys, "fnbutton",   "lcd.fnbuttonconfig",  "fnkeyboardconfig.xml", read<Lcd::IFNButtonConfig>},
-        {Catalogue::KeyChecks,    "keycheck",   "lcd.keycheckconfig",  nullptr,                read<Lcd::IKeyCheckConfig>},
-        {Catalogue::LockAreas,    "lockarea",   "lcd.lockareaconfig",  LOCK_AREA_FILE,         read<Lcd::ILockAreaConfig>},
-        {Catalogue::Settings,     "settings",   "lcd.lcdconfig",       "lcdsetting.ini",       read<Lcd::ILcdConfig>},
+        {Catalogue::Devices,      "devices",    COMP_DEVICECONFIG_NAME,    nullptr,                read<Lcd::IDeviceConfig>},
+        {Catalogue::Cards,        "subcards",   COMP_SUBCARDCONFIG_NAME,   nullptr,                read<Lcd::ISubcardConfig>},
+        {Catalogue::Connectors,   "connectors", COMP_CONNECTORCONFIG_NAME, nullptr,                read<Lcd::IConnectorConfig>},
+        {Catalogue::Menu,         "menu",       COMP_MENUCONFIG_NAME,      "menuconfig.xml",       read<Lcd::IMenuConfig>},
+        {Catalogue::FunctionKeys, "fnbutton",   COMP_FNBUTTONCONFIG_NAME,  "fnkeyboardconfig.xml", read<Lcd::IFNButtonConfig>},
+        {Catalogue::KeyChecks,    "keycheck",   COMP_KEYCHECKCONFIG_NAME,  nullptr,                read<Lcd::IKeyCheckConfig>},
+        {Catalogue::LockAreas,    "lockarea",   COMP_LOCKAREACONFIG_NAME,  LOCK_AREA_FILE,         read<Lcd::ILockAreaConfig>},
+        {Catalogue::Settings,     "settings",   COMP_LCDCONFIG_NAME,       "lcdsetting.ini",       read<Lcd::ILcdConfig>},
     };
     // clang-format on
     return all;

@@ -1,6 +1,6 @@
 #include "kpmhost.h"
 
-#include <lcdmainconfig/common.h>
+#include <lcdmainconfig/components.h>
 
 #include <dlfcn.h>
 
@@ -9,10 +9,12 @@
 namespace kpmhost {
 namespace {
 
+using namespace LCD::MainConfig::constants;
+
 /// Which component serves an interface name that plug-ins look up. The names are not the components' ids.
 constexpr std::pair<const char*, const char*> SERVED[] = {
-    {LCD::MainConfig::constants::OBJ_DEVICECONFIG_NAME, "lcd.deviceconfig"},
-    {LCD::MainConfig::constants::OBJ_SUBCARDCONFIG_NAME, "lcd.subcardconfig"},
+    {OBJ_DEVICECONFIG_NAME, COMP_DEVICECONFIG_NAME},
+    {OBJ_SUBCARDCONFIG_NAME, COMP_SUBCARDCONFIG_NAME},
 };
 
 } // namespace

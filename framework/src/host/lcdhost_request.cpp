@@ -1,10 +1,12 @@
 #include "lcdhost_request.h"
 
 #include "common/access.h"
+#include "common/build.h"
 #include "common/nearest.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -50,12 +52,21 @@ the command needs and that is not there, or can't be opened, is a problem.)";
     return text;
 }
 
+/// Seen from the program: beside it in a build tree, in the folder of its plug-ins where it is installed.
+QString defaultPlugin()
+{
+    const QDir here(QCoreApplication::applicationDirPath());
+    const QString beside = here.filePath("lcdmainconfigimpl.so");
+    const QString installed = QDir::cleanPath(here.filePath(PLUGIN_DIR "/lcdmainconfigimpl.so"));
+    return QFileInfo::exists(beside) || !QFileInfo::exists(installed) ? beside : installed;
+}
+
 void setUp(QCommandLineParser& parser)
 {
-    const QString beside = QCoreApplication::applicationDirPath() + "/lcdmainconfigimpl.so";
     parser.setApplicationDescription(description());
     parser.addOptions({
-        {"plugin", "The plug-in (default: lcdmainconfigimpl.so beside this program).", "path", beside},
+        {"plugin", "The plug-in (default: lcdmainconfigimpl.so beside this program, else where it is installed).",
+         "path", defaultPlugin()},
         {"language", "Language of the names, en or zh_CN (default: en).", "language", "en"},
         {"json", "Write one JSON object: the titles of the tables are its keys, \"problems\" holds what is wrong. "
                  "Where there is "
@@ -184,7 +195,7 @@ Request readCommandLine(const QStringList& arguments)
     if (parser.isSet("help"))
         request.shown = parser.helpText().trimmed();
     else if (parser.isSet("version"))
-        request.shown = "lcdhost " LCDHOST_VERSION;
+        request.shown = QStringLiteral("lcdhost ") + build;
     if (!request.shown.isEmpty()) return request;
     request.wrong = understood ? readWords(parser.positionalArguments(), request) : unknownOption(parser);
     if (request.wrong.isEmpty()) request.wrong = whyNotRun(parser, request);

@@ -76,10 +76,8 @@ bool Session::open(const QString& pluginPath)
         _error = QString::fromStdString(_host.error());
         return false;
     }
-    QStringList ids{USER_SETTINGS};
-    for (const Folder& folder : folders()) ids.append(folder.component);
-    for (const QString& id : ids)
-        if (_host.component(id.toStdString()) == nullptr) _error = pluginPath + " has no component " + id;
+    for (const char* const id : LOAD_ORDER)
+        if (_host.component(id) == nullptr) _error = pluginPath + " has no component " + id;
     return _error.isEmpty();
 }
 

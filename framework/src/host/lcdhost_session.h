@@ -6,6 +6,7 @@
 #include "common/layout.h"
 #include "kpmhost.h"
 
+#include <lcdmainconfig/components.h>
 #include <lcdmainconfig/iconnectorconfig.h>
 #include <lcdmainconfig/ideviceconfig.h>
 #include <lcdmainconfig/ifnbuttonconfig.h>
@@ -29,9 +30,7 @@ namespace lcdhost {
 
 namespace Lcd = LCD::MainConfig;
 using namespace lcdcommon;
-
-/// The component of the user's settings, which stand outside every configuration root.
-inline constexpr char USER_SETTINGS[] = "lcd.lcdlanguageconfig";
+using namespace Lcd::constants;
 
 /// One thing that the library, or the program itself, found wrong.
 struct Problem {
@@ -81,18 +80,30 @@ public:
     /// The warnings logged since the last load or the last call.
     static QStringList takeWarnings();
 
-    [[nodiscard]] Lcd::IDeviceConfig& devices() const { return get<Lcd::IDeviceConfig>("lcd.deviceconfig"); }
-    [[nodiscard]] Lcd::ISubcardConfig& cards() const { return get<Lcd::ISubcardConfig>("lcd.subcardconfig"); }
+    [[nodiscard]] Lcd::IDeviceConfig& devices() const { return get<Lcd::IDeviceConfig>(COMP_DEVICECONFIG_NAME); }
+    [[nodiscard]] Lcd::ISubcardConfig& cards() const { return get<Lcd::ISubcardConfig>(COMP_SUBCARDCONFIG_NAME); }
     [[nodiscard]] Lcd::IConnectorConfig& connectors() const
     {
-        return get<Lcd::IConnectorConfig>("lcd.connectorconfig");
+        return get<Lcd::IConnectorConfig>(COMP_CONNECTORCONFIG_NAME);
     }
-    [[nodiscard]] Lcd::IMenuConfig& menu() const { return get<Lcd::IMenuConfig>("lcd.menuconfig"); }
-    [[nodiscard]] Lcd::IFNButtonConfig& functionKeys() const { return get<Lcd::IFNButtonConfig>("lcd.fnbuttonconfig"); }
-    [[nodiscard]] Lcd::IKeyCheckConfig& keyChecks() const { return get<Lcd::IKeyCheckConfig>("lcd.keycheckconfig"); }
-    [[nodiscard]] Lcd::ILockAreaConfig& lockAreas() const { return get<Lcd::ILockAreaConfig>("lcd.lockareaconfig"); }
-    [[nodiscard]] Lcd::ILcdConfig& settings() const { return get<Lcd::ILcdConfig>("lcd.lcdconfig"); }
-    [[nodiscard]] Lcd::ILcdLanguageConfig& userSettings() const { return get<Lcd::ILcdLanguageConfig>(USER_SETTINGS); }
+    [[nodiscard]] Lcd::IMenuConfig& menu() const { return get<Lcd::IMenuConfig>(COMP_MENUCONFIG_NAME); }
+    [[nodiscard]] Lcd::IFNButtonConfig& functionKeys() const
+    {
+        return get<Lcd::IFNButtonConfig>(COMP_FNBUTTONCONFIG_NAME);
+    }
+    [[nodiscard]] Lcd::IKeyCheckConfig& keyChecks() const
+    {
+        return get<Lcd::IKeyCheckConfig>(COMP_KEYCHECKCONFIG_NAME);
+    }
+    [[nodiscard]] Lcd::ILockAreaConfig& lockAreas() const
+    {
+        return get<Lcd::ILockAreaConfig>(COMP_LOCKAREACONFIG_NAME);
+    }
+    [[nodiscard]] Lcd::ILcdConfig& settings() const { return get<Lcd::ILcdConfig>(COMP_LCDCONFIG_NAME); }
+    [[nodiscard]] Lcd::ILcdLanguageConfig& userSettings() const
+    {
+        return get<Lcd::ILcdLanguageConfig>(COMP_LCDLANGUAGECONFIG_NAME);
+    }
 
     /// The text in the language of the session; the other one where it is empty.
     [[nodiscard]] QString inLanguage(const std::string& english, const std::string& chinese) const;

@@ -2,18 +2,20 @@
 #ifndef LCDMAINCONFIGIMPL_CONSTANTS_H
 #define LCDMAINCONFIGIMPL_CONSTANTS_H
 
+#include <lcdmainconfig/components.h>
+
 namespace LCD::MainConfigImpl::constants {
 
 inline constexpr char PLUGIN_NAME[] = "lcdmainconfigimpl";
-inline constexpr char COMP_MENUCONFIG_NAME[] = "lcd.menuconfig";
-inline constexpr char COMP_CONNECTORCONFIG_NAME[] = "lcd.connectorconfig";
-inline constexpr char COMP_DEVICECONFIG_NAME[] = "lcd.deviceconfig";
-inline constexpr char COMP_SUBCARDCONFIG_NAME[] = "lcd.subcardconfig";
-inline constexpr char COMP_KEYCHECKCONFIG_NAME[] = "lcd.keycheckconfig";
-inline constexpr char COMP_LOCKAREACONFIG_NAME[] = "lcd.lockareaconfig";
-inline constexpr char COMP_LCDCONFIG_NAME[] = "lcd.lcdconfig";
-inline constexpr char COMP_FNBUTTONCONFIG_NAME[] = "lcd.fnbuttonconfig";
-inline constexpr char COMP_LCDLANGUAGECONFIG_NAME[] = "lcd.lcdlanguageconfig";
+using MainConfig::constants::COMP_CONNECTORCONFIG_NAME;
+using MainConfig::constants::COMP_DEVICECONFIG_NAME;
+using MainConfig::constants::COMP_FNBUTTONCONFIG_NAME;
+using MainConfig::constants::COMP_KEYCHECKCONFIG_NAME;
+using MainConfig::constants::COMP_LCDCONFIG_NAME;
+using MainConfig::constants::COMP_LCDLANGUAGECONFIG_NAME;
+using MainConfig::constants::COMP_LOCKAREACONFIG_NAME;
+using MainConfig::constants::COMP_MENUCONFIG_NAME;
+using MainConfig::constants::COMP_SUBCARDCONFIG_NAME;
 
 } // namespace LCD::MainConfigImpl::constants
 

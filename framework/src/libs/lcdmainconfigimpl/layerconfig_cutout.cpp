@@ -48,7 +48,7 @@ void readHue(const Reader& in, s_CutoutHue& hue)
     in.element("Shadow",         OnNull::Fail, hue.shadow,         flags, Value("10"), Min("0"), Max("100"), Step("1"));
     in.element("HighLigh",       OnNull::Fail, hue.highLigh,       flags, Value("10"), Min("0"), Max("100"));
     // The wording of its own is meant.
-    if (!in.has("Color")) in.fail("Color", "Invalid hueColor [%1] node.");
+    if (!in.has("Color")) in.fail("Color", QT_TRANSLATE_NOOP("reading", "Invalid hueColor [%1] node."));
     in.element("Color",          OnNull::Fail, hue,                keyColor);
 }
 

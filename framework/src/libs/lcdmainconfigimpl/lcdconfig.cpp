@@ -138,7 +138,7 @@ void LcdConfig::setLanguage(const QString& language)        { _impl->set(LANGUAG
 void LcdConfig::setLightBreathSupportValue(int value)       { _impl->set(LIGHT_BREATH_SUPPORT, value); }
 void LcdConfig::setLightColorValue(int value)               { _impl->set(LIGHT_COLOR,          value); }
 void LcdConfig::setAspectRatioValue(int value)              { _impl->set(ASPECT_RATIO,         value); }
-void LcdConfig::setFnSettingValue(int index, int value)     { _impl->set(fnKey(index),       value); }
+void LcdConfig::setFnSettingValue(int index, int value)     { _impl->setAndWrite(fnKey(index),       value); }
 // clang-format on
 
 std::pair<int, int> LcdConfig::getOffLightColorValue()

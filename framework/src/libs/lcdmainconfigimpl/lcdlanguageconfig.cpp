@@ -120,9 +120,9 @@ void LcdLanguageConfig::setScreenLight(int value)                     { _impl->s
 void LcdLanguageConfig::setKnobTimeOut(int value)                     { _impl->set(KNOB_TIME_OUT,      value); }
 void LcdLanguageConfig::setBackExitMVRTimeOut(int value)              { _impl->set(BACK_EXIT_TIME_OUT, value); }
 void LcdLanguageConfig::setTBarTolerance(const int& tolerance)        { _impl->set(T_BAR_TOLERANCE,    tolerance); }
-void LcdLanguageConfig::setFnSettingValue(int index, int value)                 { _impl->set(fnKey(FN_VALUE, index),       value); }
-void LcdLanguageConfig::setFnSettingTargetValue(int index, int target)          { _impl->set(fnKey(FN_TARGET, index),      target); }
-void LcdLanguageConfig::setFnSettingTargetTypeValue(int index, int targetType)  { _impl->set(fnKey(FN_TARGET_TYPE, index), targetType); }
+void LcdLanguageConfig::setFnSettingValue(int index, int value)                 { _impl->setAndWrite(fnKey(FN_VALUE, index),       value); }
+void LcdLanguageConfig::setFnSettingTargetValue(int index, int target)          { _impl->setAndWrite(fnKey(FN_TARGET, index),      target); }
+void LcdLanguageConfig::setFnSettingTargetTypeValue(int index, int targetType)  { _impl->setAndWrite(fnKey(FN_TARGET_TYPE, index), targetType); }
 // clang-format on
 
 int LcdLanguageConfig::getBackExitMVRTimeOut()
@@ -190,7 +190,7 @@ bool LcdLanguageConfig::hasSourceCustomSort()
 
 void LcdLanguageConfig::setSourceCustomSort(const QString& name, int value)
 {
-    _impl->change([&](IniFile& setting) {
+    _impl->changeAndWrite([&](IniFile& setting) {
         // QSettings refuses an empty key; under its section it would pass for the section's own name.
         setting.setValue(name.isEmpty() ? name : SOURCE_CUSTOM_SORT + ('/' + name), value);
     });
@@ -198,7 +198,7 @@ void LcdLanguageConfig::setSourceCustomSort(const QString& name, int value)
 
 std::vector<s_SourceCustomSort> LcdLanguageConfig::getSourceCustomSort()
 {
-    auto sorts = _impl->read(std::vector<s_SourceCustomSort>{}, [](IniFile& setting) {
+    return _impl->read(std::vector<s_SourceCustomSort>{}, [](IniFile& setting) {
         std::vector<s_SourceCustomSort> found;
         const IniEntries entries = setting.entries();
         for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
@@ -207,10 +207,9 @@ std::vector<s_SourceCustomSort> LcdLanguageConfig::getSourceCustomSort()
             if (path.size() == 2 && path.first() == SOURCE_CUSTOM_SORT && parts.size() == 2)
                 found.push_back({parts[0].toInt(), parts[1].toInt(), entry->toInt()});
         }
+        setting.write();
         return found;
     });
-    _impl->write();
-    return sorts;
 }
 
 void LcdLanguageConfig::removeGroups(const QStringList& groups)

@@ -3,6 +3,7 @@
 #define LCDMAINCONFIGIMPL_LOOKUP_H
 
 #include <kpmsdk/api.h>
+#include <lcdmainconfig/components.h>
 
 #include <QtGlobal>
 

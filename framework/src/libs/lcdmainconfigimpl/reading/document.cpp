@@ -1,36 +1,13 @@
 #include "document.h"
 
+#include "regularfile.h"
 #include "xmlparse.h"
 
-#include <QFile>
 #include <QFileInfo>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace LCD::MainConfigImpl::reading {
 
 namespace {
-
-/// Opens a regular file and nothing else: a pipe would wait for a writer, and to open a device alone may set it going.
-/// The descriptor stays one that never blocks, since a few files of the system's own folders are regular and wait.
-bool openRegular(const QString& path, QFile& file)
-{
-    // A resource of the application is no file of the system.
-    if (path.startsWith(u':')) return file.open(QIODevice::ReadOnly);
-    const QByteArray name = QFile::encodeName(path);
-    struct stat about = {};
-    if (::stat(name.constData(), &about) != 0 || !S_ISREG(about.st_mode)) return false;
-    const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-    if (descriptor < 0) return false;
-    // Another file may have taken the name in between.
-    const bool regular = ::fstat(descriptor, &about) == 0 && S_ISREG(about.st_mode);
-    if (regular && file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle))
-        return true;
-    ::close(descriptor);
-    return false;
-}
 
 /// Whether a file is read although something is wrong with it, because who listens has put it right in `document`.
 bool isReadAnyway(const QString& path, const Frame& frame, const Report& report, Refusal why, QDomDocument& document,
@@ -54,8 +31,10 @@ bool parseFile(const QString& path, const QString& shownPath, const Frame& frame
         if (report.listener != nullptr) report.listener->parsed(path, frame, document);
         return true;
     }
-    report.error =
-        report.say("Parse error at line %1, column %2:\n%3").arg(failure.line).arg(failure.column).arg(failure.message);
+    report.error = report.say(QT_TRANSLATE_NOOP("reading", "Parse error at line %1, column %2:\n%3"))
+                       .arg(failure.line)
+                       .arg(failure.column)
+                       .arg(failure.message);
     return isReadAnyway(path, frame, report, Refusal::NotWellFormed, document, failure);
 }
 

@@ -22,10 +22,10 @@ struct Frame {
 /// Files of the device, card and connector catalogues.
 inline constexpr Frame DEVICE_FRAME{
     "DCS",
-    "Invalid file path!\n%1",
-    "Fail to open file [%1]!",
-    "The file is not a valid configuration file for device.",
-    "The file is not a valid configuration file of version 1.0 for device.",
+    QT_TRANSLATE_NOOP("reading", "Invalid file path!\n%1"),
+    QT_TRANSLATE_NOOP("reading", "Fail to open file [%1]!"),
+    QT_TRANSLATE_NOOP("reading", "The file is not a valid configuration file for device."),
+    QT_TRANSLATE_NOOP("reading", "The file is not a valid configuration file of version 1.0 for device."),
 };
 
 /// Opens and parses the file. `shownPath` is the path that the message for a file that can't be opened names.

@@ -22,8 +22,9 @@ namespace LCD::MainConfigImpl::reading {
 /// tr() of the class in whose name messages are given.
 using Translate = QString (*)(const char* text, const char* disambiguation, int n);
 
-/// The message for an absent element; the only place that words it.
-inline constexpr char INVALID_NODE[] = "Invalid [%1] node.";
+/// The message for an absent element; the only place that words it. Texts that a class passes through its tr() are
+/// marked for translators under the context "reading"; the catalogue gets them once for each such class.
+inline constexpr char INVALID_NODE[] = QT_TRANSLATE_NOOP("reading", "Invalid [%1] node.");
 
 /// Where the messages of one read go.
 struct Report {

@@ -3,14 +3,12 @@
 #include "filedescriptor.h"
 #include "replacement.h"
 
-#include <system_error>
-
+#include <QCoreApplication>
 #include <QDebug>
 #include <QFileInfo>
+#include <QThread>
 
 namespace LCD::MainConfigImpl {
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -80,16 +78,9 @@ IniFile::~IniFile() = default;
 
 void IniFile::close()
 {
-    {
-        const std::lock_guard lock(_mutex);
-        _isClosing = true;
-    }
-    _closing.notify_all();
-    // Nobody else has the object now, so nobody starts the thread again.
-    if (_laterTries.joinable()) _laterTries.join();
     write();
-    const std::lock_guard lock(_mutex);
-    _isClosing = false;
+    const std::lock_guard lock(_writing);
+    _retry.reset();
 }
 
 void IniFile::refresh()
@@ -203,11 +194,14 @@ void IniFile::write()
     const std::lock_guard lock(_writing);
     if (!isPending()) return;
     // Who could not write a moment ago need not wait long again.
-    const QString problem = attempt(_unwritable.isEmpty() ? 1000ms : 0ms);
+    const QString problem = attempt(_unwritable.isEmpty() ? waits.lock : std::chrono::milliseconds::zero());
     if (!problem.isEmpty() && problem != _unwritable)
         qWarning().noquote() << "The settings in" << _path << "cannot be written now:" << problem;
     _unwritable = problem;
-    if (!problem.isEmpty()) tryAgainLater();
+    if (problem.isEmpty())
+        _pause = waits.firstRetry;
+    else
+        tryAgainLater();
 }
 
 /// Why nothing was written; empty when all is well.
@@ -247,34 +241,42 @@ QString IniFile::keepAside() const
     return "the damaged file cannot be kept as " + aside;
 }
 
-/// In a thread of its own, since no event loop can be relied upon: the one that opened the file may have ended.
+/// In the application's event loop: the thread that calls may have none, or may end. The timer is Qt's alone and is
+/// called by name, so that no code of this library is left in an event queue once the file is closed.
 void IniFile::tryAgainLater()
 {
-    {
-        const std::lock_guard lock(_mutex);
-        if (_isTryingAgain || _isClosing) return;
-        _isTryingAgain = true;
+    const QCoreApplication* const application = QCoreApplication::instance();
+    if (!application) return;
+    if (!_retry) {
+        _retry.reset(new QTimer);
+        _retry->setSingleShot(true);
+        const auto again = [path = _path] { tryAgain(path); };
+        QObject::connect(_retry.get(), &QTimer::timeout, _retry.get(), again, Qt::DirectConnection);
+        _retry->moveToThread(application->thread());
     }
-    if (_laterTries.joinable()) _laterTries.join();
-    try {
-        _laterTries = std::thread(&IniFile::tryAgain, this);
-    } catch (const std::system_error&) {
-        // Then the next setter tries again.
-        const std::lock_guard lock(_mutex);
-        _isTryingAgain = false;
-    }
+    QMetaObject::invokeMethod(_retry.get(), "start", Qt::QueuedConnection, Q_ARG(int, int(_pause.count())));
 }
 
-void IniFile::tryAgain()
+/// By the path, since the file may have been closed by another thread as the timer went off.
+void IniFile::tryAgain(const QString& path)
 {
-    std::unique_lock lock(_mutex);
-    for (auto pause = 1s; !_pending.isEmpty(); pause = std::min(2 * pause, 30s)) {
-        if (_closing.wait_for(lock, pause, [this] { return _isClosing; })) break;
-        lock.unlock();
-        write();
-        lock.lock();
+    const std::lock_guard lock(openedMutex);
+    const auto opened = openedFiles().constFind(path);
+    if (opened == openedFiles().constEnd() || opened->users == 0) return;
+    {
+        const std::lock_guard writing(opened->file->_writing);
+        opened->file->_pause = std::min(2 * opened->file->_pause, waits.lastRetry);
     }
-    _isTryingAgain = false;
+    opened->file->write();
+}
+
+void IniFile::TimerEnd::operator()(QTimer* timer) const
+{
+    timer->disconnect();
+    if (timer->thread() == QThread::currentThread())
+        delete timer;
+    else
+        timer->deleteLater();
 }
 
 } // namespace LCD::MainConfigImpl

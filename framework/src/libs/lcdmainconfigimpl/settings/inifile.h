@@ -7,24 +7,31 @@
 #include "initext.h"
 
 #include <chrono>
-#include <condition_variable>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <sys/stat.h>
-#include <thread>
 
 #include <QMap>
 #include <QString>
+#include <QTimer>
 #include <QVariant>
 
 namespace LCD::MainConfigImpl {
+
+struct IniWaits {
+    std::chrono::milliseconds lock{1000}; // for another process
+    std::chrono::milliseconds firstRetry{1000};
+    std::chrono::milliseconds lastRetry{30000};
+};
 
 /// All operations may be called from any thread. None but `write` and closing waits for another process.
 class IniFile {
 public:
     /// A larger file is neither read nor written; the largest known one has some thousand bytes.
     static constexpr int MOST_BYTES = 4 * 1024 * 1024;
+
+    static inline IniWaits waits; // shorter in tests alone
 
     struct Closer {
         void operator()(IniFile* file) const;
@@ -52,7 +59,8 @@ public:
     /// Removes the entry and the whole group of this name; an empty name means all entries.
     void remove(const QString& group);
     /// Writes what is pending, and waits for another process up to a second. What cannot be written stays pending, with
-    /// a warning, and is tried again from time to time.
+    /// a warning, and is tried again by the next call of this, by closing, and from time to time in the event loop of
+    /// the application.
     void write();
 
 private:
@@ -71,7 +79,12 @@ private:
     QString attempt(std::chrono::milliseconds patience);
     [[nodiscard]] QString keepAside() const;
     void tryAgainLater();
-    void tryAgain();
+    static void tryAgain(const QString& path);
+
+    /// It lives in the application's thread, so whoever else drops it leaves its deletion to that thread.
+    struct TimerEnd {
+        void operator()(QTimer* timer) const;
+    };
 
     const QString _path;
 
@@ -82,13 +95,11 @@ private:
     bool _isDamaged = false;
     QMap<QString, Change> _pending;
     quint64 _changes = 0;
-    bool _isClosing = false;
-    bool _isTryingAgain = false;
-    std::condition_variable _closing;
 
     std::mutex _writing; // one writer at a time; guards what follows
     QString _unwritable; // why it cannot be written, as the log has it
-    std::thread _laterTries;
+    std::chrono::milliseconds _pause = waits.firstRetry;
+    std::unique_ptr<QTimer, TimerEnd> _retry;
 };
 
 } // namespace LCD::MainConfigImpl

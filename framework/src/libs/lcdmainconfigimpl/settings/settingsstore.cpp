@@ -20,9 +20,9 @@ int boundedFnButtons(int count)
 
 void SettingsStore::open(const QString& path)
 {
-    IniFile::Pointer file = IniFile::open(path);
     if (reading::Listener::current() != nullptr) reading::Listener::current()->settingsOpened(path);
     const std::lock_guard lock(_mutex);
+    IniFile::Pointer file = IniFile::open(path);
     _setting = file.get();
     const auto isOpen = [&](const IniFile::Pointer& opened) { return opened == file; };
     if (std::none_of(_opened.begin(), _opened.end(), isOpen)) _opened.push_back(std::move(file));
@@ -91,6 +91,11 @@ QStringList SettingsStore::seeded(std::initializer_list<Seed> entries) const
 void SettingsStore::set(const QString& key, const QVariant& value)
 {
     if (change([&](IniFile& setting) { setting.setValue(key, value); })) linuxSync();
+}
+
+void SettingsStore::setAndWrite(const QString& key, const QVariant& value)
+{
+    if (changeAndWrite([&](IniFile& setting) { setting.setValue(key, value); })) linuxSync();
 }
 
 } // namespace LCD::MainConfigImpl

@@ -51,6 +51,8 @@ public:
 
     /// The value is in the file before the flush.
     void set(const QString& key, const QVariant& value);
+    /// The same with the lock held until the value is in the file.
+    void setAndWrite(const QString& key, const QVariant& value);
 
     /// What `use` makes of the open store, under the lock.
     template <class Result, class Use> Result read(const Result& noStore, const Use& use) const
@@ -75,6 +77,12 @@ public:
         lock.unlock();
         return written(changed);
     }
+    /// The same, but it writes under the lock as well.
+    template <class Use> bool changeAndWrite(const Use& use)
+    {
+        const std::lock_guard lock(_mutex);
+        return written(changedBy(use));
+    }
     template <class Use> bool changeUnlocked(const Use& use) { return written(changedBy(use)); }
     template <class Use> bool changeOrWarn(const Use& use)
     {
@@ -83,8 +91,6 @@ public:
         lock.unlock();
         return written(changed);
     }
-    /// Tries once more to write what is pending.
-    void write() const { written(_setting); }
 
 private:
     [[nodiscard]] IniFile* setting() const;

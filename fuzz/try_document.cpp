@@ -1,0 +1,135 @@
+// One document: parsed with bounds and without, read as a source, loaded by all components in silence and while
+// somebody listens, and judged by the checker.
+#include "ask.h"
+#include "try.h"
+
+#include "check/check.h"
+#include "check/panel.h"
+#include "check/source.h"
+#include "check/writers.h"
+#include "common/page.h"
+#include "reading/listener.h"
+#include "reading/xmlparse.h"
+
+#include <QBuffer>
+#include <QDomDocument>
+
+#include <cstdio>
+
+namespace fuzz {
+
+namespace reading = LCD::MainConfigImpl::reading;
+
+namespace {
+
+/// A document as text, or why it is none.
+struct Parsed {
+    bool good = false;
+    QDomDocument document;
+    reading::ParseFailure failure;
+
+    [[nodiscard]] QByteArray text() const
+    {
+        if (good) return document.toByteArray(-1);
+        return QString("%1:%2: %3").arg(failure.line).arg(failure.column).arg(failure.message).toUtf8();
+    }
+    /// Whether the parser went on until it met a fault itself, or the end.
+    [[nodiscard]] bool isWithinBounds() const
+    {
+        for (const char* const bound :
+             {"the file is larger", "the document type has more", "entities expand to", "elements are nested",
+              "an element has more", "the document has more", "the levels of all nodes", "declarations have more"})
+            if (failure.message.startsWith(QLatin1String(bound))) return false;
+        return true;
+    }
+};
+
+Parsed parseGuarded(QByteArray content)
+{
+    Parsed parsed;
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    parsed.good = reading::parseXml(buffer, parsed.document, parsed.failure);
+    return parsed;
+}
+
+Parsed parsePlainly(QByteArray content)
+{
+    Parsed parsed;
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    parsed.good = parsed.document.setContent(&buffer, true, &parsed.failure.message, &parsed.failure.line,
+                                             &parsed.failure.column);
+    return parsed;
+}
+
+void compareParsers(const QByteArray& content)
+{
+    const Parsed guarded = parseGuarded(content);
+    const lcdcheck::Source source = lcdcheck::Source::read(content);
+    (void)source.toDocument();
+    if (!guarded.isWithinBounds()) return;
+    const QByteArray plain = parsePlainly(content).text();
+    if (guarded.text() != plain) disagree("the parser with bounds and the plain one", guarded.text(), plain);
+    if (guarded.good != source.isWellFormed())
+        disagree("the parser and the source", guarded.text(),
+                 source.faults().empty() ? "no fault" : source.faults().front().message.toUtf8());
+    if (guarded.good && source.match(guarded.document).empty())
+        disagree("the parser and the source", guarded.text(), source.toDocument().toByteArray(-1));
+}
+
+/// Collects what is logged.
+Transcript* logged = nullptr;
+void takeMessage(QtMsgType, const QMessageLogContext&, const QString& text) { logged->add(text); }
+
+/// What the panel would see of the whole configuration.
+QByteArray load()
+{
+    Transcript out;
+    logged = &out;
+    const QtMessageHandler before = qInstallMessageHandler(takeMessage);
+    {
+        lcdcheck::Panel panel;
+        for (const lcdcommon::Folder& folder : lcdcommon::folders()) {
+            if (folder.catalogue == lcdcommon::Catalogue::Settings) continue;
+            const QString path = lcdcommon::pathOf(Stage::root(), folder);
+            panel.read(folder, folder.catalogue == lcdcommon::Catalogue::Devices ? path + "/device" : path);
+        }
+        askAll(panel.loaded(Stage::root()), out);
+    }
+    qInstallMessageHandler(before);
+    return out.text();
+}
+
+/// Whoever only listens changes nothing.
+void compareLoads()
+{
+    const QByteArray silent = load();
+    reading::Listener nobody;
+    const reading::Listening listening(nobody);
+    const QByteArray heard = load();
+    if (silent != heard) disagree("the silent load and the one that is listened to", silent, heard);
+}
+
+/// Has the checker look at the configuration, and at the file alone, and tell its findings in every format.
+void checkAll(lcdcheck::FileKind kind)
+{
+    static FILE* const nowhere = fopen("/dev/null", "w");
+    const QStringList roots{Stage::root()};
+    const lcdcheck::Checked checked =
+        lcdcheck::check({roots, {Stage::root() + '/' + Stage::path(kind)}, lcdcheck::infoOf(kind).name, {}}, {});
+    lcdcommon::Page page(nowhere);
+    for (const lcdcheck::Format& format : lcdcheck::formats()) format.write(checked, roots, page);
+}
+
+} // namespace
+
+void tryDocument(lcdcheck::FileKind kind, const QByteArray& content)
+{
+    compareParsers(content);
+    const Stage stage(Stage::path(kind), content);
+    compareLoads();
+    checkAll(kind);
+}
+
+} // namespace fuzz
