@@ -278,6 +278,9 @@ class TestCheck : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void findsWhatIsPlanted();
+    void findsOneMistake_data();
+    void findsOneMistake();
+    void tellsWhatASlipInATagCosts();
     void letsHarmlessEditsPass();
 
 private:
@@ -354,6 +357,106 @@ void TestCheck::findsWhatIsPlanted()
     for (std::size_t kind = 0; kind < KINDS; ++kind) qInfo("%-20s %d of %d", PLANTS[kind].first, found[kind], ROUNDS);
     QVERIFY(100 * std::accumulate(found.begin(), found.end(), 0) >= 99 * ROUNDS * int(KINDS));
     QVERIFY(100 * strayed <= ROUNDS * int(KINDS));
+}
+
+/// Mistakes that must be told once, under that name and on the line of the edit, and edits that are none.
+void TestCheck::findsOneMistake_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("before"); // Empty: from half of the file on.
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QString>("id"); // Empty: nothing is wrong.
+    const QString device = "devices/halcyon16/";
+    const QString chassis = device + "slot.xml";
+    const QString card = "subcards/inputs/202.xml";
+    const QString usb = "connectors/9.xml";
+    const QString keys = "fnbutton/fnkeyboardconfig.xml";
+    const QString menu = "menu/menuconfig.xml";
+    const QString settings = "settings/lcdsetting.ini";
+    const auto row = [](const char* name, const QString& file, const char* before, const char* after, const char* id) {
+        QTest::newRow(name) << file << QByteArray(before) << QByteArray(after) << QString(id);
+    };
+    // What stands twice leaves a number out, to which others refer.
+    row("slot twice", chassis, "Slot Index=\"3\"", "Slot Index=\"2\"", "duplicate-identifier");
+    row("position twice", card, "Position=\"2\"", "Position=\"1\"", "duplicate-identifier");
+    row("card twice", card, "ModelId=\"202\"", "ModelId=\"201\"", "duplicate-identifier");
+    row("connector twice", usb, "Connector Type=\"9\"", "Connector Type=\"8\"", "duplicate-identifier");
+    row("menu key twice", menu, "input_crop", "input_signal", "duplicate-identifier");
+    row("lock key twice", "lockarea/lockareaconfig.xml", "LCDKey=\"258\"", "LCDKey=\"257\"", "duplicate-identifier");
+    row("button twice", keys, "FN index=\"1\"", "FN index=\"0\"", "duplicate-identifier");
+    // A file that ends early may hold what others refer to.
+    row("slots cut off", chassis, "", "", "not-well-formed");
+    row("feature cut off", device + "feature.xml", "", "", "not-well-formed");
+    row("layer cut off", device + "layer_pip.xml", "", "", "not-well-formed");
+    row("screen cut off", device + "screen_wall.xml", "", "", "not-well-formed");
+    row("card cut off", card, "", "", "not-well-formed");
+    row("resolutions cut off", "connectors/resolutionratio.xml", "", "", "not-well-formed");
+    row("other version", card, "version=\"1.0\">", "version=\"1.1\">", "wrong-version");
+    row("unknown entity", card, "4x DP", "4x&nbsp;DP", "not-well-formed");
+    row("known entities", card, "4x DP", "4x &lt;DP&gt; &#49;", "");
+    row("no space between attributes", card, "\" CardMode", "\"CardMode", "not-well-formed");
+    // Lists that take every element.
+    row("slip in a list of all", keys, "<Function name=\"Freeze", "<Funtion name=\"Freeze", "unexpected-tag");
+    row("other name in a list of all", keys, "<Function name=\"Freeze", "<Still name=\"Freeze", "");
+    row("stranger behind a list's start", device + "screen_aux.xml", "</LayerType>",
+        "</LayerType><LayerCount Max=\"1\" Valid=\"1\"/>", "unexpected-tag");
+    row("element a level too high", usb, "</Horizontal>", "</Horizontal><Sync Min=\"1\" Max=\"2\"/>",
+        "unknown-element");
+    // Values.
+    row("number as a name", device + "layer_osd.xml", "Value=\"OSD\"", "Value=\"99\"", "");
+    row("not in the list", usb, "LoopType Support=\"1\" Editable=\"1\" Value=\"0\"",
+        "LoopType Support=\"1\" Editable=\"1\" Value=\"7\"", "value-not-in-list");
+    row("twice in the list", usb, "<Enum Value=\"0\"/><Enum Value=\"1\"/>", "<Enum Value=\"0\"/><Enum Value=\"0\"/>",
+        "duplicate-value");
+    row("interface of a misspelt type", "connectors/1.xml", "Interface Type", "Interface Typ", "unknown-attribute");
+    row("cells overlap", device + "screen_wall.xml", "X=\"1920\"", "X=\"1900\"", "overlapping-cells");
+    row("cell outside", device + "screen_wall.xml", "Column=\"1\"", "Column=\"2\"", "cell-outside");
+    // Settings.
+    row("key", settings, "LightColor=3", "LightColour=3", "unknown-key");
+    row("unit", settings, "KeySampling=20", "KeySampling=20ms", "not-a-number");
+    row("too large", settings, "HttpPort=19998", "HttpPort=99999999999", "not-a-number");
+    row("size", settings, "size=2", "size=two", "not-a-number");
+    row("junk", settings, "KeySampling=20", "KeySampling 20", "not-well-formed");
+    // What the author expects.
+    row("expected", usb, "<HDCP ", "<!-- lcdcheck: expect unknown-attribute --><HDCP Foo=\"1\" ", "");
+    row("expected in vain", usb, "<HDCP ", "<!-- lcdcheck: expect unknown-attribute --><HDCP ", "unused-expect");
+}
+
+void TestCheck::findsOneMistake()
+{
+    QFETCH(const QString, file);
+    QFETCH(const QByteArray, before);
+    QFETCH(const QByteArray, after);
+    QFETCH(const QString, id);
+    const QString path = _root.path() + '/' + file;
+    QFile in(path);
+    QVERIFY(in.open(QIODevice::ReadOnly));
+    const QByteArray whole = in.readAll();
+    const int at = before.isEmpty() ? whole.size() / 2 : whole.indexOf(before);
+    QVERIFY(at >= 0);
+    put(path, before.isEmpty() ? whole.left(at) : QByteArray(whole).replace(at, before.size(), after));
+    const Findings told = findings();
+    put(path, whole);
+    QStringList ids;
+    for (const Finding& finding : told) ids.append(finding.kind->id);
+    // Where a file is cut off, each element that stands open is told.
+    if (before.isEmpty()) ids.removeDuplicates();
+    QCOMPARE(ids, id.isEmpty() ? QStringList() : QStringList(id));
+    if (!id.isEmpty() && !before.isEmpty()) QCOMPARE(told[0].place.line, 1 + whole.left(at).count('\n'));
+    if (!id.isEmpty()) QCOMPARE(told[0].file, path);
+}
+
+/// A slip in the tag of a required element costs what the lack of the element costs.
+void TestCheck::tellsWhatASlipInATagCosts()
+{
+    const QString path = _root.path() + "/connectors/9.xml";
+    const auto file = std::find_if(_files.begin(), _files.end(), [&](const Victim& each) { return each.path == path; });
+    put(path, QString(file->text).replace("ShortName>", "ShortNme>").toUtf8());
+    const Findings told = findings();
+    put(path, file->bytes);
+    QCOMPARE(told.size(), 1u);
+    QCOMPARE(told[0].kind->id, QString("unknown-element"));
+    QCOMPARE(told[0].cost, QString("this \"Connector\" is left out"));
 }
 
 /// A mistake in a file that has none yet.

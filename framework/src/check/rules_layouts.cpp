@@ -5,6 +5,7 @@
 #include <lcdmainconfig/screen.h>
 
 #include <map>
+#include <set>
 #include <tuple>
 
 namespace lcdcheck {
@@ -58,10 +59,12 @@ public:
 private:
     [[nodiscard]] const Value* on(const Value& value, const Field& field) const;
     [[nodiscard]] std::map<std::pair<int, int>, std::vector<Box>> boxes(const Shape& shape, const Field& owner) const;
+    [[nodiscard]] bool isTold(const Value& cell) const { return _told.count({cell.file, cell.element}) != 0; }
     void judgeGrid(const Value& cell, const Field& field, const Field& limit, const QString& name);
 
     const Collected& _collected;
     Judge _judge;
+    std::set<std::pair<int, int>> _told; ///< Cells that stand in the place of another one.
 };
 
 /// The good value of another field of the same record; null when there is none.
@@ -94,14 +97,16 @@ void Layouts::judgeGrids()
         const Value* const layout = _collected.above(row, ROWS);
         if (!row.good || column == nullptr || layout == nullptr) continue;
         const Value*& earlier = taken[{row.file, layout->element, row.number(), column->number()}];
-        if (earlier != nullptr)
-            _judge.about("overlapping-cells", row,
-                         QString("row %1, column %2 holds the cell of %3 already")
-                             .arg(row.number())
-                             .arg(column->number())
-                             .arg(_judge.where(*earlier, row)));
-        else
+        if (earlier == nullptr) {
             earlier = &row;
+            continue;
+        }
+        _told.insert({row.file, row.element});
+        _judge.about("overlapping-cells", row,
+                     QString("row %1, column %2 holds the cell of %3 already")
+                         .arg(row.number())
+                         .arg(column->number())
+                         .arg(_judge.where(*earlier, row)));
     }
 }
 
@@ -126,7 +131,7 @@ void Layouts::judgeOverlaps(const Shape& shape, const Field& owner, const QStrin
     for (const auto& [place, all] : boxes(shape, owner))
         for (std::size_t later = 1; later < all.size(); ++later)
             for (std::size_t earlier = 0; earlier < later; ++earlier)
-                if (all[later].overlaps(all[earlier])) {
+                if (all[later].overlaps(all[earlier]) && !isTold(*all[later].at)) {
                     _judge.about("overlapping-cells", *all[later].at,
                                  QString("this %1 overlaps that of %2")
                                      .arg(name, _judge.where(*all[earlier].at, *all[later].at)));

@@ -208,6 +208,8 @@ void Structure::judgeAttributes(const Spot& spot)
         if (name == "xmlns" || name.contains(':')) continue;
         if (spot.index == 0 && name == "version") continue;
         if (heard.attribute(name) != nullptr) continue;
+        // One without a value is told already, and may be cut off.
+        if (attribute.value.isEmpty() && _file.isFaulty(attribute)) continue;
         Finding& finding = _judge.about("unknown-attribute", spot.index, attribute,
                                         QString("nobody reads %1 of %2").arg(quoted(name), quoted(spot.tag())));
         finding.hint = didYouMean(name, absent);
