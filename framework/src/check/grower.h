@@ -39,6 +39,7 @@ public:
     void visited(const QDomElement& element, reading::Walk walk, const QString& tag) override;
     bool failed(const QDomElement& element, const QString& tag, const bool* scope) override;
     void reading(const QDomElement& element, const reading::Location& record) override;
+    void readingEnds(const reading::Location& record) override { _placing.leave(record); }
     void standsFor(const reading::Location& aside, const reading::Location& place) override;
 
 private:

@@ -22,14 +22,6 @@ const QString& markName()
 
 bool fails(OnNull cost) { return cost == OnNull::Fail || cost == OnNull::FailAndLog; }
 
-/// Keeps the newest of a growing list.
-template <class Entry> void pushBounded(std::vector<Entry>& list, const Entry& entry)
-{
-    constexpr std::size_t MOST = 128;
-    if (list.size() == 2 * MOST) list.erase(list.begin(), list.begin() + MOST);
-    list.push_back(entry);
-}
-
 bool contains(const reading::Location& record, const void* address)
 {
     const auto* const begin = static_cast<const char*>(record.address);
@@ -109,6 +101,7 @@ void Hearing::begin(const QString& path, const reading::Frame& frame)
     _putIn.clear();
     _scopes.clear();
     _records.clear();
+    _begun.clear();
     _asides.clear();
     // Loaders open some files twice, and read some as two kinds.
     if (_file.path == path) return;
@@ -387,12 +380,29 @@ Field Hearing::around(const reading::Location& location) const
 void Hearing::reading(const QDomElement& element, const reading::Location& record)
 {
     if (HeardElement* const heard = heardOf(element)) heard->read = _file.wasRead = true;
-    pushBounded(_records, record);
+    _begun.push_back(_records.size());
+    _records.push_back(record);
+}
+
+void Hearing::readingEnds(const reading::Location& record)
+{
+    const std::size_t begin = _begun.back();
+    _begun.pop_back();
+    const auto isIt = [&record](const reading::Location& other) {
+        return other.address == record.address && *other.type == *record.type;
+    };
+    const auto aside =
+        std::find_if(_asides.rbegin(), _asides.rend(), [&](const auto& entry) { return isIt(entry.first); });
+    const bool goesOn = std::any_of(_begun.begin(), _begun.end(), [&](std::size_t at) { return isIt(_records[at]); });
+    // What was built aside is moved away; another record may go on to be filled by the reader that holds it.
+    const bool isGone = aside != _asides.rend() && !goesOn;
+    _records.resize(isGone ? begin : begin + 1);
+    if (isGone) _asides.erase(std::next(aside).base());
 }
 
 void Hearing::standsFor(const reading::Location& aside, const reading::Location& place)
 {
-    pushBounded(_asides, {aside, place});
+    _asides.emplace_back(aside, place);
 }
 
 } // namespace lcdcheck

@@ -166,6 +166,7 @@ public:
     void visited(const QDomElement& element, reading::Walk walk, const QString& tag) override;
     bool failed(const QDomElement& element, const QString& tag, const bool* scope) override;
     void reading(const QDomElement& element, const reading::Location& record) override;
+    void readingEnds(const reading::Location& record) override;
     void standsFor(const reading::Location& aside, const reading::Location& place) override;
 
 private:
@@ -193,7 +194,8 @@ private:
     int _lastIndex = -1;
     QHash<QString, QDomElement> _putIn; ///< By parent and tag, so that a second look-up finds the same.
     QHash<const bool*, int> _scopes;
-    std::vector<reading::Location> _records; ///< The records that were read into last, the newest at the end.
+    std::vector<reading::Location> _records; ///< Those that may still be filled, in the order of their beginning.
+    std::vector<std::size_t> _begun;         ///< Those of them that are being read into, the innermost last.
     std::vector<std::pair<reading::Location, reading::Location>> _asides;
 };
 

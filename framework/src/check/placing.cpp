@@ -1,5 +1,7 @@
 #include "placing.h"
 
+#include <algorithm>
+
 namespace lcdcheck {
 
 namespace {
@@ -25,7 +27,24 @@ void Placing::enter(const reading::Location& record)
     reading::Location place;
     for (const Span& aside : _asides)
         if (isSame(aside.record, record)) place = aside.place;
+    _begun.push_back(_spans.size());
     _spans.push_back({record, place});
+}
+
+void Placing::leave(const reading::Location& record)
+{
+    const std::size_t begin = _begun.back();
+    _begun.pop_back();
+    // What was read on the way is done. The record itself may go on to be filled by the reader that holds it, which is
+    // done when the one around it is; but what was built aside is moved away at once.
+    _spans.resize(begin + 1);
+    const bool goesOn = std::any_of(_begun.begin(), _begun.end(),
+                                    [&](std::size_t index) { return isSame(_spans[index].record, record); });
+    if (goesOn || _spans.back().place.address == nullptr) return;
+    _spans.pop_back();
+    _asides.erase(std::remove_if(_asides.begin(), _asides.end(),
+                                 [&record](const Span& aside) { return isSame(aside.record, record); }),
+                  _asides.end());
 }
 
 void Placing::standsFor(const reading::Location& aside, const reading::Location& place)
@@ -42,6 +61,7 @@ void Placing::standsFor(const reading::Location& aside, const reading::Location&
 void Placing::clear()
 {
     _spans.clear();
+    _begun.clear();
     _asides.clear();
 }
 

@@ -11,8 +11,10 @@ namespace lcdcheck {
 
 class Placing {
 public:
-    /// The readers go on with this record.
+    /// A record is read into from here on.
     void enter(const reading::Location& record);
+    /// The one that was entered last is done. Its address may be another's from now on.
+    void leave(const reading::Location& record);
     void standsFor(const reading::Location& aside, const reading::Location& place);
     void clear();
 
@@ -30,7 +32,8 @@ private:
 
     [[nodiscard]] FieldPlace placeBefore(std::size_t end, const reading::Location& field) const;
 
-    std::vector<Span> _spans; ///< In the order of the reading. The last that holds a place is the one in use.
+    std::vector<Span> _spans;        ///< The records that may still be filled, in the order of their beginning.
+    std::vector<std::size_t> _begun; ///< Those of them that are being read, the innermost last.
     std::vector<Span> _asides;
 };
 

@@ -131,8 +131,9 @@ public:
 
     // Where it goes.
 
-    /// The element is read into the record.
+    /// The element is read into the record, until the reading ends. Readings are nested.
     virtual void reading(const QDomElement& /*element*/, const Location& /*record*/) {}
+    virtual void readingEnds(const Location& /*record*/) {}
     /// What is read into `aside` will be moved to `place`, or appended to it where that is a list.
     virtual void standsFor(const Location& /*aside*/, const Location& /*place*/) {}
 

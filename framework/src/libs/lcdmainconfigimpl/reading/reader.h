@@ -81,6 +81,8 @@ public:
         if (listener() != nullptr) [[unlikely]]
             listener()->reading(_element, locationOf(record));
         (readCell(record, cells), ...);
+        if (listener() != nullptr) [[unlikely]]
+            listener()->readingEnds(locationOf(record));
     }
 
     /// Reads the first child `tag` into `target`. A failure inside it is a failure of this reader.
