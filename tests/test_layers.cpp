@@ -111,6 +111,7 @@ private Q_SLOTS:
     void endsBefore_data();
     void endsBefore();
     void readsEveryElement();
+    void isSilentOnTheOptional();
     void loadsADirectory();
 
 private:
@@ -166,6 +167,26 @@ void TestLayers::readsEveryElement()
         QCOMPARE(read(file.add(layerTree({})), error, layer), !kept.isEmpty());
         QCOMPARE(shown(layerTree(layer)), file.lines);
         QCOMPARE(log.taken().join('|'), QString(kept == required ? "debug: Invalid [DeviceModes] node." : ""));
+    }
+}
+
+/// An optional element is missing where the one around it is there.
+void TestLayers::isSilentOnTheOptional()
+{
+    QStringList optional;
+    File{SHAPES, true,
+         [&](const QString& path, QChar mark) {
+             if (mark.isNull()) optional << path;
+             return true;
+         }}
+        .add(layerTree({}));
+    for (const QString& missing : optional) {
+        File file{SHAPES, true, [&](const QString& path, QChar) { return path != missing; }};
+        const LogLines log;
+        s_DCSLayer layer;
+        QString error;
+        QVERIFY2(read(file.add(layerTree({})), error, layer), qPrintable(missing));
+        QVERIFY2(error.isEmpty() && log.taken().isEmpty(), qPrintable(missing + ": " + error));
     }
 }
 
