@@ -320,8 +320,9 @@ void TestConnectors::offersResolutions()
     known.resolutions.capacityModes = {
         {0, {{800, 600}, {1024, 768}, {1920, 1080}, {1920, 1080, 0, 0}}},
         {medium == "missing" ? 9 : 1, medium == "empty" ? Sizes() : Sizes{{2560, 1440}, {3840, 2160}}},
-        {2, {{3840, 2160}, {4096, 2160}}}};
-    known.connectors = {{{connector(1, 3, {{0, {{1024, 768}}}, {1, {{800, 600, 9, 9}}}, {2, {}}})}},
+        {2, {{3840, 2160}, {4096, 2160}}},
+        {3, {{7680, 4320}}}};
+    known.connectors = {{{connector(1, 3, {{0, {{1024, 768}}}, {1, {{800, 600, 9, 9}}}, {2, {}}, {3, {}}})}},
                         {{connector(2, 2, {{1, {{2560, 1440}}}})}},
                         {{connector(3, 1, {{0, {}}, {1, {}}, {2, {{3840, 2160}, {1024, 768}, {800, 768}}}})}}};
     if (medium == "missing") QTest::ignoreMessage(QtWarningMsg, "not find capacityMode: 1");

@@ -179,6 +179,12 @@ void TestHost::answers_data()
          "    | slot 11, conn 1     |                     |\n    | 1920x1080 at 0,0    |                     |\n"
          "    +---------------------+---------------------+\n"
          "    Not in the grid:\n      row 1, column 1: slot 11, conn 2, 1920x1080 at 1920,0\n"},
+        {"screens: a template", "screens ROOT", 0, "\n  Template Single monitor\n    Screen 1, 1 x 1\n"},
+        {"resolutions: of what", "resolutions ROOT --card 601 --position 1", 0, "Card 601, position 1\n"},
+        {"drawing: the second of two pictures", "screens ROOT --svg", 0,
+         "<rect class=\"part\" x=\"361.0\" y=\"1.00\" width=\"358.0\" height=\"200.5\" rx=\"2\"/>"
+         "<text class=\"strong\" x=\"540.0\" y=\"89.3\">slot 11 · 2</text>\n"
+         "<text x=\"540.0\" y=\"105.3\">1920 × 1080</text>\n<text class=\"faint\" x=\"540.0\" y=\"121.3\">1920, 0</text>"},
         {"settings", "settings ROOT", 0, "  HTTP port                              19998\n"},
         {"no command", "", 2, "no command"},
         {"unknown command", "lod ROOT", 2, "unknown command 'lod'; did you mean 'load'?\n"},

@@ -111,6 +111,7 @@ private Q_SLOTS:
     void endsBefore_data();
     void endsBefore();
     void readsEveryElement();
+    void isSilentOnTheOptional();
     void loadsADirectory();
 
 private:
@@ -166,6 +167,27 @@ void TestLayers::readsEveryElement()
         QCOMPARE(read(file.add(layerTree({})), error, layer), !kept.isEmpty());
         QCOMPARE(shown(layerTree(layer)), file.lines);
         QCOMPARE(log.taken().join('|'), QString(kept == required ? "debug: Invalid [DeviceModes] node." : ""));
+    }
+}
+
+/// An optional element is missing where the one around it is there.
+void TestLayers::isSilentOnTheOptional()
+{
+    QStringList optional, required;
+    File{SHAPES, true,
+         [&](const QString& path, QChar mark) {
+             (mark.isNull() ? optional : required) << path;
+             return true;
+         }}
+        .add(layerTree({}));
+    for (const QString& missing : optional) {
+        if (required.contains(missing)) continue; // A second one.
+        File file{SHAPES, true, [&](const QString& path, QChar) { return path != missing; }};
+        const LogLines log;
+        s_DCSLayer layer;
+        QString error;
+        QVERIFY2(read(file.add(layerTree({})), error, layer), qPrintable(missing));
+        QVERIFY2(error.isEmpty() && log.taken().isEmpty(), qPrintable(missing + ": " + error));
     }
 }
 

@@ -68,6 +68,7 @@ private Q_SLOTS:
     void keepsTheEntryOrder();
     void endsWithoutAHost_data();
     void endsWithoutAHost();
+    void isDestroyedWithItsHost();
 };
 
 void TestPlugin::exportsThreeSymbols()
@@ -164,6 +165,25 @@ void TestPlugin::endsWithoutAHost()
     QFile said;
     QVERIFY(said.open(words[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) && WIFEXITED(status));
     QTEST(QString::fromUtf8(said.readAll()), "lastWords");
+}
+
+/// The last component first, since a later one may use an earlier one to its end.
+void TestPlugin::isDestroyedWithItsHost()
+{
+    static QStringList destroyed;
+    QStringList made;
+    {
+        kpmhost::Host host;
+        QVERIFY(host.load(PLUGIN_PATH));
+        for (auto* const* entry = host.info()->componentTable; *entry != nullptr; ++entry) {
+            made.prepend((*entry)->id);
+            (*entry)->deletor = [id = (*entry)->id, destroy = (*entry)->deletor](void* object) {
+                destroyed.append(id);
+                destroy(object);
+            };
+        }
+    }
+    QCOMPARE(destroyed, made);
 }
 
 QTEST_GUILESS_MAIN(TestPlugin)

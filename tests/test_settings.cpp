@@ -178,7 +178,8 @@ private Q_SLOTS:
 
     void readsTheArrays()
     {
-        const Factory panel(modes(FACTORY, {{4, 1}, {6, 2}, {4, 3}}) + modes(CURRENT, {{6, 8}, {6, 9}}) +
+        const Factory panel(modes(FACTORY, {{4, 1}, {6, 2}, {4, 3}}) + "4\\Status=9\n4\\WorkMode=5\n" +
+                            modes(CURRENT, {{6, 8}, {6, 9}}) +
                             "[InputListNoSupportConnectorTypeSetting]\n1\\ConnectorType=7\n2\\ConnectorType=x\n"
                             "3\\ConnectorType=7\n4\\ConnectorType=5\nsize=3\n"
                             "[SourceTypeUseGeneralNameSetting]\n1\\InterfaceType=1\n1\\ConnectorType=2\n"
