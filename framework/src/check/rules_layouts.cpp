@@ -60,7 +60,7 @@ private:
     [[nodiscard]] const Value* on(const Value& value, const Field& field) const;
     [[nodiscard]] std::map<std::pair<int, int>, std::vector<Box>> boxes(const Shape& shape, const Field& owner) const;
     [[nodiscard]] bool isTold(const Value& cell) const { return _told.count({cell.file, cell.element}) != 0; }
-    void judgeGrid(const Value& cell, const Field& field, const Field& limit, const QString& name);
+    void judgeGrid(const Value& cell, const Field& limit, const QString& name);
 
     const Collected& _collected;
     Judge _judge;
@@ -74,12 +74,11 @@ const Value* Layouts::on(const Value& value, const Field& field) const
     return found != nullptr && found->element == value.element && found->good ? found : nullptr;
 }
 
-void Layouts::judgeGrid(const Value& cell, const Field& field, const Field& limit, const QString& name)
+void Layouts::judgeGrid(const Value& cell, const Field& limit, const QString& name)
 {
     const Value* const most = _collected.above(cell, limit);
     if (!cell.good || !cell.present || most == nullptr || !most->good || !most->present) return;
     if (cell.number() >= 0 && cell.number() < most->number()) return;
-    (void)field;
     _judge.about("cell-outside", cell,
                  QString("%1 %2 is outside the grid of %3, which are counted from 0")
                      .arg(name)
@@ -89,8 +88,8 @@ void Layouts::judgeGrid(const Value& cell, const Field& field, const Field& limi
 
 void Layouts::judgeGrids()
 {
-    for (const Value& cell : _collected.all(ROW)) judgeGrid(cell, ROW, ROWS, "row");
-    for (const Value& cell : _collected.all(COLUMN)) judgeGrid(cell, COLUMN, COLUMNS, "column");
+    for (const Value& cell : _collected.all(ROW)) judgeGrid(cell, ROWS, "row");
+    for (const Value& cell : _collected.all(COLUMN)) judgeGrid(cell, COLUMNS, "column");
     std::map<std::tuple<int, int, qlonglong, qlonglong>, const Value*> taken;
     for (const Value& row : _collected.all(ROW)) {
         const Value* const column = on(row, COLUMN);
