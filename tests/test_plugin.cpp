@@ -69,6 +69,7 @@ private Q_SLOTS:
     void endsWithoutAHost_data();
     void endsWithoutAHost();
     void isDestroyedWithItsHost();
+    void canBeUnloaded();
 };
 
 void TestPlugin::exportsThreeSymbols()
@@ -184,6 +185,37 @@ void TestPlugin::isDestroyedWithItsHost()
         }
     }
     QCOMPARE(destroyed, made);
+}
+
+/// In a process of its own, since this one keeps the plug-in open.
+void TestPlugin::canBeUnloaded()
+{
+    const QTemporaryDir root;
+    QVERIFY(QProcess::execute("cp", {"-rT", EXAMPLES_PATH "/halcyon", root.path()}) == 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext& /*where*/, const QString& /*text*/) {});
+        {
+            kpmhost::Host host;
+            if (!host.load(PLUGIN_PATH)) _exit(1);
+            QString error;
+            for (const lcdcommon::Folder& folder : lcdcommon::folders()) {
+                const bool isDevices = folder.catalogue == lcdcommon::Catalogue::Devices;
+                const QString path =
+                    isDevices ? lcdcommon::deviceFolders(root.path()).value(0) : lcdcommon::pathOf(root.path(), folder);
+                if (!folder.read(host.component(folder.component), path, error)) _exit(3);
+            }
+        }
+        void* library = nullptr;
+        for (int closed = 0; closed < 1000 && (library = dlopen(PLUGIN_PATH, RTLD_NOW | RTLD_NOLOAD)); ++closed) {
+            dlclose(library);
+            dlclose(library);
+        }
+        _exit(library != nullptr ? 2 : 0);
+    }
+    int status = -1;
+    QCOMPARE(waitpid(child, &status, 0), child);
+    QCOMPARE(status, 0);
 }
 
 QTEST_GUILESS_MAIN(TestPlugin)
