@@ -76,6 +76,8 @@ public:
     {}
 
     void run();
+    /// The components, unless something was mended while they read.
+    [[nodiscard]] std::shared_ptr<const Panel> panel() const { return _hearing.hasMended() ? nullptr : _panel; }
 
 private:
     void load(const Folder& folder);
@@ -98,7 +100,7 @@ private:
     Checked& _out;
     const std::function<void(const QString&)>& _progress;
     Collected _collected;
-    Panel _panel;
+    std::shared_ptr<Panel> _panel = std::make_shared<Panel>();
     Hearing _hearing{[this](HeardFile& file) { heard(file); }, &_vocabulary};
     QSet<QString> _known;               ///< Files that were read, or about which something was said.
     std::set<qlonglong> _typesOfUnread; ///< Connector types of the cards that no slot takes.
@@ -149,9 +151,9 @@ void RootCheck::load(const Folder& folder)
         add("cannot-read", path, "cannot be read: " + reason).cost = "nothing of this catalogue is read";
         return;
     }
-    if (folder.catalogue != Catalogue::Devices) return _panel.read(folder, path);
+    if (folder.catalogue != Catalogue::Devices) return _panel->read(folder, path);
     const QStringList devices = lcdcommon::deviceFolders(_root);
-    for (const QString& device : devices) _panel.read(folder, device);
+    for (const QString& device : devices) _panel->read(folder, device);
     if (devices.isEmpty())
         add("missing-file", path, "holds no device folder").cost = "no card and no connector is read";
 }
@@ -319,7 +321,7 @@ void RootCheck::run()
     judgeReferences(_collected, _out.findings);
     judgePositions(_collected, _out.findings);
     judgeLayouts(_collected, _out.findings);
-    judgeResolutions(_collected, _panel.loaded(_root), _out.findings);
+    judgeResolutions(_collected, _panel->loaded(_root), _out.findings);
     judgeUnread();
 }
 
@@ -367,7 +369,11 @@ Checked check(const Request& request, const std::function<void(const QString& fi
 {
     Checked checked;
     GrammarVocabulary vocabulary;
-    for (const QString& root : request.roots) RootCheck(QDir::cleanPath(root), vocabulary, checked, progress).run();
+    for (const QString& root : request.roots) {
+        RootCheck one(QDir::cleanPath(root), vocabulary, checked, progress);
+        one.run();
+        if (request.roots.size() == 1) checked.panel = one.panel();
+    }
     for (const QString& file : request.files) {
         if (progress) progress(file);
         checkFile(file, request.kind, vocabulary, checked);

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 namespace lcdcheck {
 
@@ -17,10 +18,15 @@ struct Request {
     QString language;
 };
 
+class Panel;
+
 struct Checked {
     Findings findings;
     int files = 0; ///< How many files were looked at.
     std::function<QString(const QString& file, int line)> line;
+    /// The components with the one root that was asked for, where they hold what the panel would. Null where something
+    /// was mended so that reading could go on, or there were other roots.
+    std::shared_ptr<const Panel> panel;
 };
 
 /// Checks all that is asked for. `progress` is told each file before it is read.

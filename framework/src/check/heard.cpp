@@ -12,13 +12,10 @@ using reading::Walk;
 
 namespace {
 
-/// The attribute under which an element of the DOM carries its number in the source. No file can hold one of that name,
-/// and no reader asks for it.
-const QString& markName()
-{
-    static const QString name(QChar(1));
-    return name;
-}
+/// What tells one node of the DOM from all others.
+struct Identity : QDomNode {
+    static const void* of(const QDomNode& node) { return node.*&Identity::impl; }
+};
 
 bool fails(OnNull cost) { return cost == OnNull::Fail || cost == OnNull::FailAndLog; }
 
@@ -27,6 +24,13 @@ bool contains(const reading::Location& record, const void* address)
     const auto* const begin = static_cast<const char*>(record.address);
     const auto* const wanted = static_cast<const char*>(address);
     return std::greater_equal<>{}(wanted, begin) && std::less<>{}(wanted, begin + record.size);
+}
+
+template <class Name> const HeardAttribute* named(const std::vector<HeardAttribute>& attributes, const Name& name)
+{
+    const auto hit = std::find_if(attributes.begin(), attributes.end(),
+                                  [&](const HeardAttribute& attribute) { return attribute.name == name; });
+    return hit == attributes.end() ? nullptr : &*hit;
 }
 
 /// For each attribute that nobody asked for, the absent one that it was probably meant to be.
@@ -47,12 +51,9 @@ void findStrangers(const Source& source, std::size_t index, HeardElement& heard)
 
 } // namespace
 
-const HeardAttribute* HeardElement::attribute(const QString& name) const
-{
-    const auto hit = std::find_if(attributes.begin(), attributes.end(),
-                                  [&](const HeardAttribute& attribute) { return attribute.name == name; });
-    return hit == attributes.end() ? nullptr : &*hit;
-}
+const HeardAttribute* HeardElement::attribute(const QString& name) const { return named(attributes, name); }
+
+const HeardAttribute* HeardElement::attribute(QLatin1String name) const { return named(attributes, name); }
 
 QString HeardFile::tagOf(int element) const
 {
@@ -97,7 +98,7 @@ void Hearing::finish()
 
 void Hearing::begin(const QString& path, const reading::Frame& frame)
 {
-    _lastElement = {};
+    _lastNode = nullptr;
     _putIn.clear();
     _scopes.clear();
     _records.clear();
@@ -106,6 +107,8 @@ void Hearing::begin(const QString& path, const reading::Frame& frame)
     // Loaders open some files twice, and read some as two kinds.
     if (_file.path == path) return;
     finish();
+    _numbers.clear();
+    _documents.clear();
     _file.path = path;
     _file.frame = &frame;
     _file.cost = _cost;
@@ -113,21 +116,23 @@ void Hearing::begin(const QString& path, const reading::Frame& frame)
     _file.elements.resize(_file.source.elements().size());
 }
 
-void Hearing::mark(const std::vector<QDomElement>& elements)
+void Hearing::number(const std::vector<QDomElement>& elements)
 {
+    _numbers.reserve(_numbers.size() + int(elements.size()));
     for (std::size_t index = 0; index < elements.size(); ++index) {
         QDomElement element = elements[index];
         if (element.isNull()) continue;
-        element.setAttribute(markName(), int(index));
+        _numbers.insert(Identity::of(element), int(index));
         if (const QString& meant = _file.elements[index].meant; !meant.isEmpty()) element.setTagName(meant);
     }
 }
 
 QDomDocument Hearing::recovered(const reading::Frame& frame)
 {
+    _mended = true;
     std::vector<QDomElement> placed;
     QDomDocument document = _file.source.toDocument(&placed);
-    mark(placed);
+    number(placed);
     if (document.documentElement().isNull()) document.appendChild(document.createElement(frame.rootTag));
     return document;
 }
@@ -139,7 +144,8 @@ void Hearing::parsed(const QString& path, const reading::Frame& frame, QDomDocum
     if (elements.empty())
         document = recovered(frame);
     else
-        mark(elements);
+        number(elements);
+    _documents.push_back(document);
 }
 
 bool Hearing::refused(const QString& path, const reading::Frame& frame, Refusal why,
@@ -157,7 +163,11 @@ bool Hearing::refused(const QString& path, const reading::Frame& frame, Refusal 
     if (!known) _file.refusals.push_back({why, failure});
     // What stands below another root is judged as if the root were right.
     if (why == Refusal::WrongRoot && !_file.elements.empty()) _file.elements[0].meant = frame.rootTag;
-    if (!opened) document = recovered(frame);
+    _mended = true;
+    if (!opened) {
+        document = recovered(frame);
+        _documents.push_back(document);
+    }
     return true;
 }
 
@@ -166,11 +176,10 @@ bool Hearing::refused(const QString& path, const reading::Frame& frame, Refusal 
 int Hearing::indexOf(const QDomElement& element)
 {
     if (element.isNull()) return -1;
-    if (element == _lastElement) return _lastIndex;
-    bool marked = false;
-    const int index = element.attribute(markName()).toInt(&marked);
-    _lastElement = element;
-    _lastIndex = marked ? index : -1;
+    const void* const node = Identity::of(element);
+    if (node == _lastNode) return _lastIndex;
+    _lastNode = node;
+    _lastIndex = _numbers.value(node, -1);
     return _lastIndex;
 }
 
@@ -186,6 +195,7 @@ bool Hearing::rename(QDomElement element, const QString& tag)
     if (heard == nullptr) return false;
     heard->meant = tag;
     element.setTagName(tag);
+    _mended = true;
     return true;
 }
 
@@ -208,6 +218,7 @@ QDomElement Hearing::adopt(const QDomElement& parent, int index, const QString& 
 
 QDomElement Hearing::putIn(int parent, const QString& tag)
 {
+    _mended = true;
     QDomElement& element = _putIn[QString::number(parent) + '/' + tag];
     if (element.isNull()) element = _putInFrom.createElement(tag);
     return element;
@@ -263,17 +274,18 @@ bool Hearing::childTested(const QDomElement& parent, const QString& tag, bool fo
 
 bool Hearing::failed(const QDomElement& element, const QString& tag, const bool* scope)
 {
-    HeardElement* const heard = heardOf(element);
-    if (heard == nullptr) return true;
-    const bool tested = !heard->children.empty() && heard->children.back().tested;
-    // A reader that ends because something is there has its reasons.
-    if (tested && heard->children.back().element >= 0) return false;
-    miss(missing(indexOf(element), tested ? heard->children.back().tag : tag, OnNull::Fail, scope));
-    return true;
+    if (HeardElement* const heard = heardOf(element)) {
+        const bool tested = !heard->children.empty() && heard->children.back().tested;
+        // A reader that ends because something is there has its reasons.
+        if (tested && heard->children.back().element >= 0) return false;
+        miss(missing(indexOf(element), tested ? heard->children.back().tag : tag, OnNull::Fail, scope));
+    }
+    return _mended = true;
 }
 
-bool Hearing::contentTested(const QDomElement& element, bool /*found*/)
+bool Hearing::contentTested(const QDomElement& element, bool found)
 {
+    _mended = _mended || !found;
     if (HeardElement* const heard = heardOf(element)) heard->read = true;
     return true;
 }
@@ -322,7 +334,8 @@ bool Hearing::attributeTested(const QDomElement& element, const QString& name, b
     const Source::Element& written = _file.source.elements()[std::size_t(index)];
     for (const Source::Attribute& attribute : _file.source.attributes(written)) {
         const QString other = localName(_file.source.slice(attribute.name)).toString();
-        if (!lcdcommon::nearest(other, {name}).isEmpty() && !_vocabulary->mayHave(_file.path, path, other)) return true;
+        if (!lcdcommon::nearest(other, {name}).isEmpty() && !_vocabulary->mayHave(_file.path, path, other))
+            return _mended = true;
     }
     return false;
 }

@@ -93,6 +93,7 @@ struct HeardElement {
     std::optional<Missing> lack;   ///< What the panel misses since the tag is another, where that costs something.
 
     [[nodiscard]] const HeardAttribute* attribute(const QString& name) const;
+    [[nodiscard]] const HeardAttribute* attribute(QLatin1String name) const;
 };
 
 /// Why a file was not read, or not as it stands.
@@ -150,6 +151,8 @@ public:
     void setCostOfFile(const QString& cost) { _cost = cost; }
     /// Has this file be read in the place of the one that the readers open.
     void readInstead(const QString& path) { _instead = path; }
+    /// Whether something was mended since the beginning, so that the readers hold more than the files give.
+    [[nodiscard]] bool hasMended() const { return _mended; }
 
     void parsed(const QString& path, const reading::Frame& frame, QDomDocument& document) override;
     bool refused(const QString& path, const reading::Frame& frame, reading::Refusal why,
@@ -172,7 +175,7 @@ public:
 private:
     void begin(const QString& path, const reading::Frame& frame);
     QDomDocument recovered(const reading::Frame& frame);
-    void mark(const std::vector<QDomElement>& elements);
+    void number(const std::vector<QDomElement>& elements);
     [[nodiscard]] int indexOf(const QDomElement& element);
     [[nodiscard]] HeardElement* heardOf(const QDomElement& element);
     [[nodiscard]] Field fieldAt(const reading::Asked& asked) const;
@@ -189,9 +192,12 @@ private:
     QString _instead;
     QString _cost;
     HeardFile _file;
-    QDomDocument _putInFrom; ///< Makes the elements that are put in.
-    QDomElement _lastElement;
+    QDomDocument _putInFrom;              ///< Makes the elements that are put in.
+    std::vector<QDomDocument> _documents; ///< Of the file. As long as they live, no other node has a node's address.
+    QHash<const void*, int> _numbers;     ///< Of their elements in the source, by the address of the node.
+    const void* _lastNode = nullptr;
     int _lastIndex = -1;
+    bool _mended = false;
     QHash<QString, QDomElement> _putIn; ///< By parent and tag, so that a second look-up finds the same.
     QHash<const bool*, int> _scopes;
     std::vector<reading::Location> _records; ///< Those that may still be filled, in the order of their beginning.

@@ -15,18 +15,20 @@ namespace {
 void dropMessage(QtMsgType /*type*/, const QMessageLogContext& /*where*/, const QString& /*text*/) {}
 
 /// Reading a folder that is not there would create it.
-void load(Panel& panel, const QString& root)
+std::shared_ptr<const Panel> loaded(const QString& root)
 {
+    auto panel = std::make_shared<Panel>();
     const QtMessageHandler before = qInstallMessageHandler(dropMessage);
     for (const lcdcommon::Folder& folder : lcdcommon::folders()) {
         const QString path = lcdcommon::pathOf(root, folder);
         if (!lcdcommon::whyNoFolder(path).isEmpty()) continue;
         if (folder.catalogue != lcdcommon::Catalogue::Devices)
-            panel.read(folder, path);
+            panel->read(folder, path);
         else
-            for (const QString& device : lcdcommon::deviceFolders(root)) panel.read(folder, device);
+            for (const QString& device : lcdcommon::deviceFolders(root)) panel->read(folder, device);
     }
     qInstallMessageHandler(before);
+    return panel;
 }
 
 bool holds(const QString& path, const QByteArray& bytes)
@@ -39,10 +41,10 @@ bool holds(const QString& path, const QByteArray& bytes)
 
 QString writePageFile(const QString& path, const Request& request, const Checked& checked)
 {
-    Panel panel;
-    load(panel, request.roots.first());
+    const QString root = request.roots.first();
+    const std::shared_ptr<const Panel> panel = checked.panel ? checked.panel : loaded(root);
     const QByteArray bytes =
-        page(panel.loaded(request.roots.first()), checked.findings, checked.line, {request.language, LCDCHECK_VERSION});
+        page(panel->loaded(root), checked.findings, checked.line, {request.language, LCDCHECK_VERSION});
     if (holds(path, bytes)) return {};
     QSaveFile file(path);
     file.setDirectWriteFallback(true);

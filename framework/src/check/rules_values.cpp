@@ -7,10 +7,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 namespace lcdcheck {
 
 namespace {
+
+constexpr QLatin1String MIN("Min");
+constexpr QLatin1String MAX("Max");
+constexpr QLatin1String VALUE("Value");
 
 bool isNumber(reading::Kind kind) { return kind != reading::Kind::Text; }
 
@@ -50,6 +55,9 @@ QString storedInstead(const QString& text, const HeardAttribute& asked)
     return {};
 }
 
+/// Whether every text that is a number of the kind is stored as that number.
+bool storesAll(reading::Kind kind) { return !hasDecimals(kind) && kind != reading::Kind::Unsigned32; }
+
 /// One attribute of an element as a number, where it is there and is one.
 struct Number {
     const Source::Attribute* written = nullptr;
@@ -63,12 +71,13 @@ public:
 
     void judgeNumbers(int element);
     void judgeRange(int element);
-    void judgeList(int element, const std::vector<int>& children);
+    /// Judges the list of values below an element.
+    void judgeList(int element, const std::vector<int>& entries);
+    [[nodiscard]] bool isEntry(int element) const;
 
 private:
     [[nodiscard]] const HeardElement& heard(int element) const { return _file.elements[std::size_t(element)]; }
-    [[nodiscard]] Number number(int element, const QString& name) const;
-    [[nodiscard]] bool isEntry(int element) const;
+    [[nodiscard]] Number number(int element, QLatin1String name) const;
 
     const HeardFile& _file;
     FileJudge _judge;
@@ -78,7 +87,7 @@ void Values::judgeNumbers(int element)
 {
     const Source& source = _file.source;
     for (const HeardAttribute& asked : heard(element).attributes) {
-        if (!asked.present || !isNumber(asked.kind)) continue;
+        if (!asked.present || !isNumber(asked.kind) || (asked.good && storesAll(asked.kind))) continue;
         const Source::Attribute* const written = source.attribute(source.elements()[std::size_t(element)], asked.name);
         if (written == nullptr || _file.isFaulty(*written)) continue;
         const QString text = source.value(*written);
@@ -92,13 +101,13 @@ void Values::judgeNumbers(int element)
     }
 }
 
-Number Values::number(int element, const QString& name) const
+Number Values::number(int element, QLatin1String name) const
 {
     const HeardAttribute* const asked = heard(element).attribute(name);
     // The limits of a text are those of its length.
     if (asked == nullptr || !asked->present || !asked->good || !isNumber(asked->kind)) return {};
     const Source& source = _file.source;
-    const Source::Attribute* const written = source.attribute(source.elements()[std::size_t(element)], name);
+    const Source::Attribute* const written = source.attribute(source.elements()[std::size_t(element)], asked->name);
     if (written != nullptr && _file.isFaulty(*written)) return {};
     bool good = false;
     const double value = written == nullptr ? 0 : source.value(*written).toDouble(&good);
@@ -107,15 +116,15 @@ Number Values::number(int element, const QString& name) const
 
 void Values::judgeRange(int element)
 {
-    const Number min = number(element, "Min");
-    const Number max = number(element, "Max");
+    const Number min = number(element, MIN);
+    const Number max = number(element, MAX);
     const auto show = [](double value) { return QString::number(value, 'g', 12); };
     if (min && max && min.value > max.value) {
         _judge.about("empty-range", element, *min.written,
                      QString("\"Min\" %1 is above \"Max\" %2").arg(show(min.value), show(max.value)));
         return;
     }
-    const Number value = number(element, "Value");
+    const Number value = min || max ? number(element, VALUE) : Number{};
     if (!value) return;
     if (min && value.value < min.value)
         _judge.about("value-out-of-range", element, *value.written,
@@ -129,17 +138,16 @@ void Values::judgeRange(int element)
 bool Values::isEntry(int element) const
 {
     static const Field named = fieldOf<LCD::MainConfig::s_EnumStringValue>(&LCD::MainConfig::s_EnumStringValue::value);
-    const HeardAttribute* const asked = heard(element).attribute("Value");
+    const HeardAttribute* const asked = heard(element).attribute(VALUE);
     return asked != nullptr && !heard(element).visits.empty() && (asked->whole || asked->field == named);
 }
 
-void Values::judgeList(int element, const std::vector<int>& children)
+void Values::judgeList(int element, const std::vector<int>& entries)
 {
     QHash<qlonglong, int> lines;
     bool known = true;
-    for (const int child : children) {
-        if (!isEntry(child)) continue;
-        const Number value = number(child, "Value");
+    for (const int child : entries) {
+        const Number value = number(child, VALUE);
         known = known && value;
         if (!value) continue;
         int& line = lines[qlonglong(value.value)];
@@ -149,8 +157,9 @@ void Values::judgeList(int element, const std::vector<int>& children)
         else
             line = _file.source.place(value.written->name).line;
     }
-    const Number chosen = number(element, "Value");
-    if (lines.isEmpty() || !known || !chosen || lines.contains(qlonglong(chosen.value))) return;
+    if (lines.isEmpty() || !known) return;
+    const Number chosen = number(element, VALUE);
+    if (!chosen || lines.contains(qlonglong(chosen.value))) return;
     _judge.about("value-not-in-list", element, *chosen.written,
                  QString("\"Value\" %1 is not in the list below it").arg(qlonglong(chosen.value)));
 }
@@ -161,15 +170,14 @@ void judgeValues(const HeardFile& file, Findings& findings)
 {
     if (!file.wasRead) return;
     Values values(file, findings);
-    std::vector<std::vector<int>> children(file.elements.size());
+    std::map<int, std::vector<int>> entries;
     for (int element = 0; element < int(file.elements.size()); ++element) {
         values.judgeNumbers(element);
         values.judgeRange(element);
         const int parent = file.source.elements()[std::size_t(element)].parent;
-        if (parent >= 0) children[std::size_t(parent)].push_back(element);
+        if (parent >= 0 && values.isEntry(element)) entries[parent].push_back(element);
     }
-    for (int element = 0; element < int(file.elements.size()); ++element)
-        values.judgeList(element, children[std::size_t(element)]);
+    for (const auto& [element, list] : entries) values.judgeList(element, list);
 }
 
 } // namespace lcdcheck
