@@ -100,7 +100,8 @@ void drawConnector(Sheet& sheet, const Lcd::s_Subcard& card, const Lcd::s_Subcar
     out.leaf("text", {{"class", "number"}, {"x", 21}, {"y", 33}}, QString::number(connector.position));
     drawSocket(sheet, connector);
     if (known)
-        out.leaf("text", {{"class", "strong"}, {"lang", "zh-CN"}, {"x", 10}, {"y", 58}}, fitting(type->name, 15));
+        out.leaf("text", {{"class", "strong"}, {"x", 10}, {"y", 58}},
+                 Words{fitting(type->name.english, 15), fitting(type->name.chinese, 15)});
     else
         out.leaf("text", {{"class", "bad"}, {"x", 10}, {"y", 58}},
                  Words{"no type %1", "无类型 %1"}.with(connector.type));

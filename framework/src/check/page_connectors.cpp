@@ -192,16 +192,17 @@ void writeTimings(Sheet& sheet, const PageConnectorType& type)
 
 void writeConnectorType(Sheet& sheet, const PageConnectorType& type)
 {
-    const Element block(sheet.out, "details",
-                        {{"class", "item"},
-                         {"id", type.anchor},
-                         {"open", sheet.model.types().size() <= UNFOLDED ? QString("") : QString()},
-                         {"data-find", QString("type %1 类型 ").arg(type.type) + type.name}});
+    const Element block(
+        sheet.out, "details",
+        {{"class", "item"},
+         {"id", type.anchor},
+         {"open", sheet.model.types().size() <= UNFOLDED ? QString("") : QString()},
+         {"data-find", QString("type %1 类型 ").arg(type.type) + type.name.english + ' ' + type.name.chinese}});
     {
         const Element summary(sheet.out, "summary");
         sheet.out.leaf("span", {{"class", "id"}}, QString::number(type.type));
         if (type.known)
-            sheet.out.leaf("h3", {{"lang", "zh-CN"}}, type.name);
+            sheet.out.leaf("h3", {}, type.name);
         else
             sheet.out.leaf("h3", {{"class", "missing"}}, Words{"No such connector type", "没有此接口类型"});
         badge(sheet, type.anchor);

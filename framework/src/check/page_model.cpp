@@ -1,5 +1,6 @@
 #include "page_model.h"
 
+#include "common/connectornames.h"
 #include "common/layout.h"
 
 #include <QDir>
@@ -128,9 +129,13 @@ void PageModel::addTypes()
         for (const Lcd::s_SubcardConnector& connector : entry.card->connectors.connectors)
             users[connector.type].insert(entry.card->modelId);
     Lcd::IConnectorConfig& catalogue = *_loaded.connectors;
+    const lcdcommon::Folder& folder = lcdcommon::folderOf(lcdcommon::Catalogue::Connectors);
+    auto english =
+        lcdcommon::englishConnectorNames(lcdcommon::filesOf(folder, lcdcommon::pathOf(_loaded.root, folder)));
     for (const auto& [type, cards] : users) {
         PageConnectorType entry{type, {}, catalogue.findEDIDInfo(type) != nullptr, {}, cards, {}};
-        entry.name = QString::fromStdString(catalogue.findConnectorTypeName(type));
+        if (entry.known)
+            entry.name = lcdcommon::named(english[type].toStdString(), catalogue.findConnectorTypeName(type));
         entry.anchor = QString("type-%1").arg(type);
         // The interface hands out no list of interface types, so each bit is asked for.
         for (int bit = 0; entry.known && bit < INTERFACE_BITS; ++bit) {

@@ -50,7 +50,7 @@ struct PageCard {
 /// One connector type that some card has.
 struct PageConnectorType {
     int type = 0;
-    QString name;                ///< As the panel gives it, in Chinese whatever its language; empty: none is loaded.
+    Words name;                  ///< Empty: none is loaded. The panel gives the Chinese one, whatever its language.
     bool known = false;          ///< It stands in the catalogue.
     std::vector<int> interfaces; ///< Interface types, single bits, for which it says anything.
     std::set<int> cards;         ///< Models of the cards that have it.

@@ -52,7 +52,7 @@ void typeLink(Sheet& sheet, int type)
     if (known != nullptr && known->known) {
         const Element anchor(sheet.out, "a", {{"href", '#' + known->anchor}});
         sheet.out.text(number + ' ');
-        return sheet.out.leaf("bdi", {{"lang", "zh-CN"}}, known->name);
+        return sheet.out.leaf("bdi", {}, known->name);
     }
     const Element missing(sheet.out, "span", {{"class", "missing"}});
     sheet.out.text(number + ' ');

@@ -51,11 +51,11 @@ QString titleOf(const Lcd::s_Subcard& card)
 Answer runCards(Session& session, const Options& /*options*/)
 {
     for (const Catalogue needed : {Catalogue::Devices, Catalogue::Cards, Catalogue::Connectors}) session.load(needed);
-    const auto cards = session.cards().subcardConfig();
+    const auto& cards = session.allCards().subcards;
     Answer answer;
     QJsonArray all;
-    if (cards->subcards.empty()) answer.show([](Page& page) { page.line("The card catalogue is empty."); });
-    for (const Lcd::s_Subcard& card : cards->subcards) {
+    if (cards.empty()) answer.show([](Page& page) { page.line("The card catalogue is empty."); });
+    for (const Lcd::s_Subcard& card : cards) {
         const Records connectors = connectorsOf(session, card);
         const Records groups = groupsOf(card);
         all.append(QJsonObject{{"model", card.modelId},

@@ -58,8 +58,7 @@ void Session::checkCards(const QString& path)
 void Session::checkConnectors(const QString& path)
 {
     std::map<int, QString> asked;
-    const auto all = cards().subcardConfig();
-    for (const Lcd::s_Subcard& card : all->subcards)
+    for (const Lcd::s_Subcard& card : allCards().subcards)
         for (const Lcd::s_SubcardConnector& connector : card.connectors.connectors)
             asked.try_emplace(connector.type,
                               QString("card %1 has connector type %2").arg(card.modelId).arg(connector.type));

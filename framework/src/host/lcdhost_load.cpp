@@ -41,7 +41,6 @@ void answerOtherDevices(const Session& session, Answer& answer)
 
 Records slotRecords(const Session& session)
 {
-    const auto cards = session.cards().subcardConfig();
     Records records({numbers("Slot"), words("Silk name"), words("Class"), numbers("Card"), words("Card name")});
     for (const ClassSlot& entry : slotsByIndex(session.devices().curDeviceConfigs().slots)) {
         const std::vector<Cell> slot{entry.slot.index, entry.silkName, entry.className};
@@ -51,7 +50,7 @@ Records slotRecords(const Session& session)
         if (entry.slot.subcards.empty()) add(QJsonValue::Null, {QJsonValue::Null, "takes no card"}, 0);
         int shared = 0;
         for (const Lcd::s_InlineSubcard& card : entry.slot.subcards) {
-            const QString name = session.cardName(*cards, card.moduleId);
+            const QString name = session.cardName(card.moduleId);
             const Cell known = session.hasCard(card.moduleId) ? Cell(name) : Cell(QJsonValue::Null, "not in catalogue");
             add(card.moduleId, known, std::exchange(shared, int(slot.size())));
         }
@@ -143,7 +142,7 @@ Records layerRecords(const Session& session, const Lcd::s_Device& device)
 /// The catalogues one by one: how much there is, and what stands out.
 class Counts {
 public:
-    explicit Counts(Session& session) : _session(session), _cards(*session.cards().subcardConfig()) {}
+    explicit Counts(Session& session) : _session(session), _cards(session.allCards()) {}
 
     [[nodiscard]] Records counted()
     {
@@ -259,7 +258,7 @@ private:
     }
 
     Session& _session;
-    const Lcd::s_DCSSubcard _cards;
+    const Lcd::s_DCSSubcard& _cards;
     Records _records{{words("Catalogue"), numbers("Entries"), words("Note")}};
 };
 

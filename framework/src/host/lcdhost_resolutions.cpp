@@ -200,7 +200,7 @@ Answer runResolutions(Session& session, const Options& options)
         return answer;
     }
     const Offer offer = ask(session, *connector, options);
-    const QString cardName = session.cardName(*session.cards().subcardConfig(), std::uint64_t(options.card));
+    const QString cardName = session.cardName(std::uint64_t(options.card));
     answer.json = json(options, offer);
     answer.show([options, cardName, offer](Page& page) {
         tellRequest(options, cardName, offer, page);

@@ -1,8 +1,8 @@
 #include "lcdhost_session.h"
 
 #include "common/access.h"
+#include "common/connectornames.h"
 #include "common/nearest.h"
-#include "lcdhost_names.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -125,7 +125,7 @@ QString Session::whyNotAskedFor(Catalogue catalogue) const
 {
     if (catalogue == Catalogue::Cards && devices().DeviceConfigs().isEmpty())
         return "no device was loaded, so no card file is read";
-    if (catalogue == Catalogue::Connectors && cards().subcardConfig()->subcards.empty())
+    if (catalogue == Catalogue::Connectors && allCards().subcards.empty())
         return "no card was loaded, so no connector file is read";
     return {};
 }
@@ -167,6 +167,7 @@ void Session::read(const Folder& folder, const QString& path)
 {
     bool good = false;
     const QStringList texts = reports(folder, _host.component(folder.component), path, good);
+    _allCards.reset();
     if (good) _loaded.insert(int(folder.catalogue));
     if (texts.isEmpty()) return;
     if (folder.file == nullptr) return diagnose(folder, path, texts);
@@ -225,17 +226,23 @@ QString Session::inLanguage(const std::string& english, const std::string& chine
     return QString::fromStdString(first.empty() ? second : first);
 }
 
-QString Session::cardName(const Lcd::s_DCSSubcard& cards, std::uint64_t model) const
+const Lcd::s_DCSSubcard& Session::allCards() const
 {
-    for (const Lcd::s_Subcard& card : cards.subcards)
+    if (!_allCards) _allCards = cards().subcardConfig();
+    return *_allCards;
+}
+
+QString Session::cardName(std::uint64_t model) const
+{
+    for (const Lcd::s_Subcard& card : allCards().subcards)
         if (std::uint64_t(card.modelId) == model) return inLanguage(card.name.en, card.name.zhCN);
     return {};
 }
 
 bool Session::hasCard(std::uint64_t model) const
 {
-    const auto all = cards().subcardConfig();
-    return std::any_of(all->subcards.begin(), all->subcards.end(),
+    const auto& all = allCards().subcards;
+    return std::any_of(all.begin(), all.end(),
                        [model](const Lcd::s_Subcard& card) { return std::uint64_t(card.modelId) == model; });
 }
 

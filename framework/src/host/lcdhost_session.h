@@ -23,6 +23,7 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -108,8 +109,10 @@ public:
     /// The text in the language of the session; the other one where it is empty.
     [[nodiscard]] QString inLanguage(const std::string& english, const std::string& chinese) const;
     /// The name of the first card of a model; empty when the catalogue has none.
-    [[nodiscard]] QString cardName(const Lcd::s_DCSSubcard& cards, std::uint64_t model) const;
+    [[nodiscard]] QString cardName(std::uint64_t model) const;
 
+    /// The cards that are loaded. The component gives a copy of them all at each call, so one is kept here.
+    [[nodiscard]] const Lcd::s_DCSSubcard& allCards() const;
     [[nodiscard]] bool hasCard(std::uint64_t model) const;
     [[nodiscard]] bool hasConnectorType(int type) const;
     /// The name of a connector type; empty for an unknown one. The component gives the Chinese name alone; the English
@@ -147,6 +150,7 @@ private:
     QStringList _devices; ///< The device folders in the order of loading.
     QSet<int> _loaded;
     std::vector<Gap> _gaps;
+    mutable std::shared_ptr<const Lcd::s_DCSSubcard> _allCards; ///< Filled when first asked for, after each load.
     mutable std::map<int, QString> _englishNames; ///< Of connector types; filled when the first is asked for.
     std::vector<Problem> _problems;
 };

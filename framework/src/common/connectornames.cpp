@@ -1,12 +1,15 @@
-#include "lcdhost_names.h"
+#include "common/connectornames.h"
 
 #include "common/access.h"
 
 #include <QFile>
 #include <QXmlStreamReader>
 
-namespace lcdhost {
+namespace lcdcommon {
 namespace {
+
+/// A larger file is none to the plug-in.
+constexpr qint64 MOST_BYTES = 16 << 20;
 
 /// The text of the first child `tag` of the current element, which is read to its end.
 QString childText(QXmlStreamReader& xml, const char* tag)
@@ -48,7 +51,7 @@ std::map<int, QString> englishConnectorNames(const QStringList& files)
     std::map<int, QString> names;
     for (const QString& path : files) {
         QFile file(path);
-        if (!lcdcommon::whyNoFile(path).isEmpty() || !file.open(QIODevice::ReadOnly)) continue;
+        if (!whyNoFile(path).isEmpty() || file.size() > MOST_BYTES || !file.open(QIODevice::ReadOnly)) continue;
         QXmlStreamReader xml(&file);
         xml.readNextStartElement();
         while (xml.readNextStartElement())
@@ -60,4 +63,4 @@ std::map<int, QString> englishConnectorNames(const QStringList& files)
     return names;
 }
 
-} // namespace lcdhost
+} // namespace lcdcommon
