@@ -78,6 +78,7 @@ private Q_SLOTS:
     void isWhole();
     void keepsTextsTexts();
     void marksWhatIsNotThere();
+    void showsWhatThePanelHas();
 };
 
 void TestPage::tellsEverything()
@@ -154,6 +155,17 @@ void TestPage::marksWhatIsNotThere()
     QVERIFY(page.texts.contains("no such connector"));
     QVERIFY(page.texts.contains("this device has no slot 77"));
     QVERIFY(page.texts.contains("SlotIndex=\"")); // The source line of the finding.
+}
+
+/// The check mends the tags to read on, the panel loses the cards.
+void TestPage::showsWhatThePanelHas()
+{
+    QVERIFY(ReadPage(Root().path()).ids.contains("card-201"));
+    const QVector<QPair<QString, QString>> misspelt{{"Subcards>", "Subcadrs>"}};
+    const Root root(misspelt);
+    const ReadPage page(root.path());
+    QVERIFY(!page.ids.contains("card-201"));
+    QVERIFY(page.texts.contains("Subcadrs"));
 }
 
 QTEST_GUILESS_MAIN(TestPage)
