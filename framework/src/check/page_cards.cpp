@@ -215,8 +215,10 @@ void writeCapacityRow(Sheet& sheet, const Lcd::s_Subcard& card, int deviceMode, 
 void writeCapacities(Sheet& sheet, const Lcd::s_Subcard& card)
 {
     std::vector<Lcd::s_SubcardConnector> positions = byPosition(card);
-    const auto repeated = std::ranges::unique(positions, {}, &Lcd::s_SubcardConnector::position);
-    positions.erase(repeated.begin(), repeated.end());
+    const auto isRepeated = [](const Lcd::s_SubcardConnector& one, const Lcd::s_SubcardConnector& next) {
+        return one.position == next.position;
+    };
+    positions.erase(std::unique(positions.begin(), positions.end(), isRepeated), positions.end());
     std::vector<std::pair<int, int>> rows;
     for (const Lcd::s_DeviceModeInConnectors& mode : card.connectors.deviceModes)
         for (const auto& capacity : mode.capacitys) rows.emplace_back(mode.value, capacity.value);
