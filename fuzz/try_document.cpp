@@ -4,6 +4,7 @@
 #include "try.h"
 
 #include "check/check.h"
+#include "check/pagefile.h"
 #include "check/panel.h"
 #include "check/source.h"
 #include "check/writers.h"
@@ -111,15 +112,19 @@ void compareLoads()
     if (silent != heard) disagree("the silent load and the one that is listened to", silent, heard);
 }
 
-/// Has the checker look at the configuration, and at the file alone, and tell its findings in every format.
+/// Has the checker look at the configuration, and at the file alone, and tell its findings in every format and on a
+/// page.
 void checkAll(lcdcheck::FileKind kind)
 {
     static FILE* const nowhere = fopen("/dev/null", "w");
     const QStringList roots{Stage::root()};
-    const lcdcheck::Checked checked =
-        lcdcheck::check({roots, {Stage::root() + '/' + Stage::path(kind)}, lcdcheck::infoOf(kind).name, {}}, {});
+    const lcdcheck::Request request{
+        roots, {Stage::root() + '/' + Stage::path(kind)}, lcdcheck::infoOf(kind).name, QStringLiteral("en")};
+    const lcdcheck::Checked checked = lcdcheck::check(request, {});
     lcdcommon::Page page(nowhere);
     for (const lcdcheck::Format& format : lcdcheck::formats()) format.write(checked, roots, page);
+    const QString lost = lcdcheck::writePageFile(Stage::root() + "/page.html", request, checked);
+    if (!lost.isEmpty()) disagree("the page and its file", {}, lost.toUtf8());
 }
 
 } // namespace

@@ -7,10 +7,13 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
 
-# Sources have their own list of packages here, so that the system's stays as it is.
-mkdir -p lists/partial
-echo "deb-src http://deb.debian.org/debian stable main" >sources.list
-options=(-o Dir::Etc::SourceList="$work/sources.list" -o Dir::Etc::SourceParts=/dev/null -o Dir::State::Lists="$work/lists" -o APT::Sandbox::User=root)
+# Sources have lists of their own here, so that the system's stay as they are. They come from where its packages do.
+mkdir -p lists/partial parts
+for list in /etc/apt/sources.list.d/*.sources; do
+    [[ ! -e $list ]] || sed 's/^Types:.*/Types: deb-src/' "$list" >"parts/$(basename "$list")"
+done
+sed -n 's/^deb /deb-src /p' /etc/apt/sources.list >sources.list 2>/dev/null || true
+options=(-o Dir::Etc::SourceList="$work/sources.list" -o Dir::Etc::SourceParts="$work/parts" -o Dir::State::Lists="$work/lists" -o APT::Sandbox::User=root)
 apt-get "${options[@]}" update >/dev/null
 apt-get "${options[@]}" source --download-only libxml2 expat >/dev/null
 for archive in *.orig.tar.*; do

@@ -13,9 +13,9 @@ namespace lcdcheck {
 
 namespace {
 
-constexpr QLatin1String MIN("Min");
-constexpr QLatin1String MAX("Max");
-constexpr QLatin1String VALUE("Value");
+const QLatin1String MIN("Min");
+const QLatin1String MAX("Max");
+const QLatin1String VALUE("Value");
 
 bool isNumber(reading::Kind kind) { return kind != reading::Kind::Text; }
 
