@@ -1,7 +1,11 @@
 # The catalogue of the library's messages. Its one context "reading" is given to each class in whose name messages are
 # told, since tr() looks them up under the class.
 find_program(LRELEASE NAMES lrelease lrelease-qt5)
-if(NOT LRELEASE)
+# The name may be there that chooses between versions of Qt, and no program behind it.
+if(LRELEASE)
+  execute_process(COMMAND ${LRELEASE} -version RESULT_VARIABLE fails OUTPUT_QUIET ERROR_QUIET)
+endif()
+if(NOT LRELEASE OR fails)
   message(STATUS "No lrelease: the translations are left out")
   return()
 endif()

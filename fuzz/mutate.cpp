@@ -169,7 +169,11 @@ private:
         const QDomNamedNodeMap all = element.attributes();
         return all.isEmpty() ? QDomAttr() : all.item(int(below(all.count()))).toAttr();
     }
-    void dropAttribute(QDomElement element) { element.removeAttributeNode(anyAttribute(element)); }
+    void dropAttribute(QDomElement element)
+    {
+        const QDomAttr attribute = anyAttribute(element);
+        if (!attribute.isNull()) element.removeAttributeNode(attribute);
+    }
     void swapValues(const QDomElement& one, const QDomElement& other)
     {
         QDomAttr first = anyAttribute(one);

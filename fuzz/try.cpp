@@ -31,10 +31,10 @@ std::optional<FileKind> Input::kind() const
     return info->kind;
 }
 
-void tryInput(const Input& input)
+void tryInput(const Input& input, Scope scope)
 {
     if (const auto kind = input.kind())
-        tryDocument(*kind, input.content);
+        tryDocument(*kind, input.content, scope);
     else if (input.name == FACTORY_SETTINGS || input.name == USER_SETTINGS)
         trySettings(input.name == USER_SETTINGS, input.content);
 }

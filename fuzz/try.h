@@ -25,13 +25,16 @@ struct Input {
 inline constexpr char FACTORY_SETTINGS[] = "settings";
 inline constexpr char USER_SETTINGS[] = "usersettings";
 
+/// What looks at the whole configuration costs most of the time, and can be left out.
+enum class Scope { File, Configuration };
+
 /// Has all readers, queries and the checker try the input. One of no known kind is passed over.
-void tryInput(const Input& input);
+void tryInput(const Input& input, Scope scope = Scope::Configuration);
 
 /// The two ways differ.
 [[noreturn]] void disagree(const char* what, const QByteArray& one, const QByteArray& other);
 
-void tryDocument(lcdcheck::FileKind kind, const QByteArray& content);
+void tryDocument(lcdcheck::FileKind kind, const QByteArray& content, Scope scope);
 void trySettings(bool user, const QByteArray& content);
 
 /// The folder of a small configuration, whose file of one kind is exchanged for another one; an empty path stands for

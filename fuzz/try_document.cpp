@@ -83,8 +83,38 @@ void compareParsers(const QByteArray& content)
 Transcript* logged = nullptr;
 void takeMessage(QtMsgType, const QMessageLogContext&, const QString& text) { logged->add(text); }
 
-/// What the panel would see of the whole configuration.
-QByteArray load()
+/// Whether what a file says reaches a catalogue: its own, and those that are read by what it says.
+bool reaches(lcdcheck::FileKind kind, lcdcommon::Catalogue catalogue)
+{
+    using lcdcheck::FileKind;
+    using lcdcommon::Catalogue;
+    switch (kind) {
+    case FileKind::Feature:
+    case FileKind::Silk:
+    case FileKind::Screen:
+    case FileKind::Layer:
+        return catalogue == Catalogue::Devices;
+    case FileKind::Slot:
+    case FileKind::Card:
+    case FileKind::Connector:
+    case FileKind::Resolution:
+        return catalogue <= Catalogue::Connectors;
+    case FileKind::Menu:
+        return catalogue == Catalogue::Menu;
+    case FileKind::FunctionKeys:
+        return catalogue == Catalogue::FunctionKeys;
+    case FileKind::KeyCheck:
+        return catalogue == Catalogue::KeyChecks;
+    case FileKind::LockArea:
+        return catalogue == Catalogue::LockAreas;
+    case FileKind::Settings:
+        break;
+    }
+    return false;
+}
+
+/// What the panel would see of the configuration.
+QByteArray load(lcdcheck::FileKind kind)
 {
     Transcript out;
     logged = &out;
@@ -92,7 +122,7 @@ QByteArray load()
     {
         lcdcheck::Panel panel;
         for (const lcdcommon::Folder& folder : lcdcommon::folders()) {
-            if (folder.catalogue == lcdcommon::Catalogue::Settings) continue;
+            if (!reaches(kind, folder.catalogue)) continue;
             const QString path = lcdcommon::pathOf(Stage::root(), folder);
             panel.read(folder, folder.catalogue == lcdcommon::Catalogue::Devices ? path + "/device" : path);
         }
@@ -103,38 +133,39 @@ QByteArray load()
 }
 
 /// Whoever only listens changes nothing.
-void compareLoads()
+void compareLoads(lcdcheck::FileKind kind)
 {
-    const QByteArray silent = load();
+    const QByteArray silent = load(kind);
     reading::Listener nobody;
     const reading::Listening listening(nobody);
-    const QByteArray heard = load();
+    const QByteArray heard = load(kind);
     if (silent != heard) disagree("the silent load and the one that is listened to", silent, heard);
 }
 
 /// Has the checker look at the configuration, and at the file alone, and tell its findings in every format and on a
 /// page.
-void checkAll(lcdcheck::FileKind kind)
+void checkAll(lcdcheck::FileKind kind, Scope scope)
 {
     static FILE* const nowhere = fopen("/dev/null", "w");
-    const QStringList roots{Stage::root()};
+    const QStringList roots = scope == Scope::File ? QStringList() : QStringList{Stage::root()};
     const lcdcheck::Request request{
         roots, {Stage::root() + '/' + Stage::path(kind)}, lcdcheck::infoOf(kind).name, QStringLiteral("en")};
     const lcdcheck::Checked checked = lcdcheck::check(request, {});
     lcdcommon::Page page(nowhere);
     for (const lcdcheck::Format& format : lcdcheck::formats()) format.write(checked, roots, page);
+    if (roots.isEmpty()) return;
     const QString lost = lcdcheck::writePageFile(Stage::root() + "/page.html", request, checked);
     if (!lost.isEmpty()) disagree("the page and its file", {}, lost.toUtf8());
 }
 
 } // namespace
 
-void tryDocument(lcdcheck::FileKind kind, const QByteArray& content)
+void tryDocument(lcdcheck::FileKind kind, const QByteArray& content, Scope scope)
 {
     compareParsers(content);
     const Stage stage(Stage::path(kind), content);
-    compareLoads();
-    checkAll(kind);
+    compareLoads(kind);
+    checkAll(kind, scope);
 }
 
 } // namespace fuzz

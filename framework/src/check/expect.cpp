@@ -1,10 +1,11 @@
 #include "expect.h"
 
-#include "common/access.h"
 #include "common/layout.h"
 #include "common/nearest.h"
 #include "filekind.h"
 #include "source.h"
+
+#include "reading/regularfile.h"
 
 #include <QDir>
 #include <QFile>
@@ -33,6 +34,8 @@ struct Expectation {
     bool wholeFile = false;
     bool used = false;
 };
+
+namespace reading = LCD::MainConfigImpl::reading;
 
 using Expectations = std::vector<Expectation>;
 
@@ -225,11 +228,10 @@ Expectations expectationsOfFile(const QString& path, bool asSettings)
     // Most files say nothing to the checker, and are spared the reading with places. Encodings of two and four bytes
     // fill up with zeros.
     static const QByteArray word("lcdcheck:");
-    if (!lcdcommon::whyNoFile(path).isEmpty()) return {};
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return {};
+    if (!reading::openRegular(path, file)) return {};
     // Nobody reads a larger one.
-    const QByteArray bytes = file.read(Source::MOST_BYTES);
+    const QByteArray bytes = reading::readAtMost(file, Source::MOST_BYTES);
     if (!file.atEnd()) return {};
     const bool wide = bytes.contains('\0');
     if (!(wide ? QByteArray(bytes).replace(QByteArray(1, '\0'), QByteArray()) : bytes).contains(word)) return {};

@@ -72,7 +72,7 @@ std::optional<Source> Source::readFile(const QString& path)
 {
     QFile file(path);
     if (!LCD::MainConfigImpl::reading::openRegular(path, file)) return std::nullopt;
-    return read(file.read(qint64(MOST_BYTES) + 1));
+    return read(LCD::MainConfigImpl::reading::readAtMost(file, qint64(MOST_BYTES) + 1));
 }
 
 const Source::Attribute* Source::attribute(const Element& element, QStringView name) const

@@ -1,5 +1,7 @@
 #include "regularfile.h"
 
+#include <algorithm>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -22,6 +24,18 @@ bool openRegular(const QString& path, QFile& file)
         return true;
     ::close(descriptor);
     return false;
+}
+
+QByteArray readAtMost(QFile& file, qint64 most)
+{
+    QByteArray bytes = file.read(std::min(file.size(), most));
+    // It may have grown, and some files of the system's own folders tell no size.
+    constexpr qint64 PIECE = 65536;
+    for (QByteArray more; bytes.size() < most; bytes += more) {
+        more = file.read(std::min(PIECE, most - bytes.size()));
+        if (more.isEmpty()) break;
+    }
+    return bytes;
 }
 
 } // namespace LCD::MainConfigImpl::reading

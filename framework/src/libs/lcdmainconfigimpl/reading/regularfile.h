@@ -10,6 +10,9 @@ namespace LCD::MainConfigImpl::reading {
 /// set it going. False where the path leads to no such file, or it can't be opened.
 bool openRegular(const QString& path, QFile& file);
 
+/// What is left to read of a file, up to a bound. QFile would take the room for the whole bound first.
+QByteArray readAtMost(QFile& file, qint64 most);
+
 } // namespace LCD::MainConfigImpl::reading
 
 #endif
