@@ -9,7 +9,7 @@ _lcdhost() {
     --card | --position | --interface | --device) ;;
     *)
         if [[ $cur == -* ]]; then
-            _lcdtools_words "--plugin --language --json --device --card --position --interface --user-settings --help
+            _lcdtools_words "--plugin --language --json --device --svg --card --position --interface --user-settings --help
                 --version"
         elif ((COMP_CWORD == 1)); then
             _lcdtools_words "load cards resolutions screens menu settings"
@@ -28,7 +28,7 @@ _lcdcheck() {
         [[ $cur == *,* ]] && given=${cur%,*},
         _lcdtools_words "$("$program" --list 2>/dev/null | awk -v given="$given" '{print given $1}')"
         ;;
-    --format) _lcdtools_words "text gcc json sarif github markdown html" ;;
+    --format) _lcdtools_words "text gcc json sarif github markdown html xml" ;;
     --fail-on) _lcdtools_words "error warning note never" ;;
     --language) _lcdtools_words "en zh_CN" ;;
     --kind | --reference | --schema | --new)
@@ -36,8 +36,8 @@ _lcdcheck() {
         ;;
     *)
         if [[ $cur == -* ]]; then
-            _lcdtools_words "--format --only --ignore --fail-on --kind --language --watch --explain --list --reference
-                --schema --new --help --version"
+            _lcdtools_words "--format --only --ignore --fail-on --html --kind --language --watch --explain --list
+                --reference --schema --new --at --effective --diff --help --version"
         else
             mapfile -t COMPREPLY < <(compgen -f -- "$cur")
         fi
